@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <atomic>
+
+#include "VexExport.h"
+
+class FcpAppCORBA;
+
+/**
+ * Moves one file between the local disk and the instrument, in chunks of 131072 bytes.
+ *
+ * | result | meaning |
+ * |---|---|
+ * | 0 | the file was carried: every byte was accepted, and the target was closed without an error |
+ * | 1 | failure, on either side or of the link |
+ * | 2 | the destination exists and overwriting was not allowed |
+ * | 3 | aborted |
+ *
+ * A transfer blocks the calling thread. What a failed or aborted one has written stays where it is
+ * and is not whole; the remote handle and the local file are closed on every way out.
+ */
+class VEX_EXPORT QvexFileMover : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** The size of the blocks in which contents travel, in bytes. */
+    static constexpr long ChunkSize = 0x20000;
+
+    /** @p controller is not owned and must outlive the mover. */
+    explicit QvexFileMover(FcpAppCORBA *controller);
+    QvexFileMover(FcpAppCORBA *controller, const QString &src, const QString &dst);
+    QvexFileMover(FcpAppCORBA *controller, const QString &src, const QString &dst,
+                  bool overwrite);
+    ~QvexFileMover() override;
+
+    QString getSrc() const;
+    QString getDst() const;
+    void setDst(const QString &dst);
+    bool getOverwrite() const;
+    void setOverwrite(bool overwrite);
+
+    /** Carries a local file to the instrument. @return the result, see the table above. */
+    int uploadFile(const QString &localSrc, const QString &remoteDst, bool overwrite);
+    /** Carries a file of the instrument to the local disk; makes missing folders. */
+    int downloadFile(const QString &remoteSrc, const QString &localDst, bool overwrite);
+
+    /**
+     * Ends the running transfer at the next chunk with result 3. From any thread. Without a running
+     * transfer it does nothing: the next one is not affected.
+     */
+    void abort();
+
+public Q_SLOTS:
+    /** Uploads with the stored source, destination and overwrite flag; ends in complete(). */
+    void runUpload();
+    /** Downloads likewise. */
+    void runDownload();
+
+Q_SIGNALS:
+    /** The transfer that runUpload() or runDownload() began has ended. */
+    void complete(int result);
+    /**
+     * @p done bytes of @p total (-1: unknown) of @p file, the source's path, were carried. At most
+     * 20 times a second, and once when the transfer has ended, whatever its result.
+     */
+    void progress(const QString &file, qint64 done, qint64 total);
+
+private:
+    FcpAppCORBA *m_controller;
+    QString m_src;
+    QString m_dst;
+    bool m_overwrite = false;
+    std::atomic<bool> m_aborted = false;
+};
