@@ -21,14 +21,12 @@ function(vex_add_idl target)
             COMMENT "omniidl ${idl}"
             VERBATIM)
         list(APPEND sources ${made})
-        list(APPEND headers "${out}/${name}.hh")
     endforeach()
     add_library(${target} OBJECT ${sources})
     set_target_properties(${target} PROPERTIES
         AUTOMOC OFF
         CXX_VISIBILITY_PRESET default
-        VISIBILITY_INLINES_HIDDEN OFF
-        VEX_GENERATED_HEADERS "${headers}")
+        VISIBILITY_INLINES_HIDDEN OFF)
     target_compile_options(${target} PRIVATE -w)
     target_include_directories(${target} SYSTEM PUBLIC
         "$<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}/generated>"

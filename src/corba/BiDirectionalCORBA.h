@@ -33,7 +33,8 @@
  * | word | what happens |
  * |---|---|
  * | `-ORBListenEndpoints iiop://[host]:port[/portspan=n]` | replaces the default listen endpoint |
- * | `-ORBDottedDecimalAddresses`, `-ORBMuxedConnectionMax`, `-ORBUseParallelConnects`, `-ORBSvcConfDirective`, ... | accepted; this ORB does so anyway or has no counterpart |
+ * | `-ORBDottedDecimalAddresses`, `-ORBMuxedConnectionMax`, `-ORBUseParallelConnects`,
+ * `-ORBSvcConfDirective`, ... | accepted; this ORB does so anyway or has no counterpart |
  *
  * Other words that begin with "-ORB" go to omniORB as they are, for instance
  * `-ORBclientCallTimeOutPeriod 300` for a round-trip time-out of 300 ms (default 180 s). One that

@@ -20,7 +20,8 @@ class FcpLink;
  * The one object through which the library and the applications call the controller (the Fcp).
  *
  * It connects to the controller's published object, registers the callback object with it, has a
- * method for each of the controller's operations, and turns any failure of the link into one signal.
+ * method for each of the controller's operations, and turns any failure of the link into one
+ * signal.
  *
  * ### Results
  * A method that fails for any reason returns a zero result (false, 0, an empty text; vectors and
@@ -28,11 +29,11 @@ class FcpLink;
  * for it, and every method returns zero at once until the next connectToFCP(). No exception leaves
  * a method, getResourceRequestStatus() excepted.
  *
- * The zero of a FileSystemResult is @c FS_OK. Code that moves bytes must not mistake a lost link for
- * success: FcpRemoteFile tells the two apart.
+ * The zero of a FileSystemResult is @c FS_OK. Code that moves bytes must not mistake a lost link
+ * for success: FcpRemoteFile tells the two apart.
  *
- * An argument that can not travel (a text with a NUL character, a number beyond 32 bits) gives the
- * zero result too, without a call and without losing the link.
+ * A text with a NUL character can not travel and gives the zero result too, without a call and
+ * without losing the link; so does a number beyond 32 bits, or @c FS_ERROR where that is possible.
  *
  * ### Threads
  * Every method may be called from any thread, several at once. The object lives on the GUI thread,
@@ -78,6 +79,8 @@ public:
     bool isLocal() const;
     /** The host given to the last connectToFCP(). */
     QString getHost() const;
+    /** The port given to the last connectToFCP(). */
+    int getPort() const;
     BiDirectionalCORBA *getCorba() const;
     /** The callback object; owned by this proxy. Connect its fcpShutDownReceived() yourself. */
     AppFcpCORBAImpl *getCallback() const;
@@ -156,6 +159,7 @@ private:
     explicit FcpAppCORBA(BiDirectionalCORBA *corba);
 
     friend class FcpRemoteFile;
+    friend class VexLinkSupervisor;
 
     static FcpAppCORBA *m_Instance;
 

@@ -104,8 +104,8 @@ QDebug operator<<(QDebug debug, const ResourceRequestInformation &record)
 
 QDebug operator<<(QDebug debug, const FileSystemItem &record)
 {
-    return writeRecord(debug, "FileSystemItem", record.name, record.date, record.size,
-                       record.isdir, record.dircount);
+    return writeRecord(debug, "FileSystemItem", record.name, record.date, record.size, record.isdir,
+                       record.dircount);
 }
 
 void registerFcpRecordTypes()

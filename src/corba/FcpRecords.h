@@ -15,8 +15,8 @@ class QDebug;
  *
  * Each record has the members of its wire struct: texts as QString (the wire carries UTF-8),
  * 32-bit integers as qint32, pictures as the encoded bytes that the controller sent (PNG or another
- * format that QImage::fromData() recognises; empty when there is none). All are copyable, comparable
- * and usable in queued signals.
+ * format that QImage::fromData() recognises; empty when there is none). All are copyable,
+ * comparable and usable in queued signals.
  */
 
 /** A test process that is running on the instrument. */

@@ -38,10 +38,10 @@ class VEX_EXPORT VexLinkSupervisor : public QObject
 public:
     /**
      * @dot
-     * digraph { Stopped -> Restoring [label="start"]; Stopped -> Connected [label="start, link up"];
-     * Restoring -> Connected; Restoring -> Lost [label="attempt failed"];
-     * Lost -> Restoring [label="delay over, retryNow"]; Connected -> Suspect [label="no answer yet"];
-     * Suspect -> Connected [label="heard"]; Connected -> Lost; Suspect -> Lost; }
+     * digraph { Stopped -> Restoring [label="start"]; Stopped -> Connected [label="start, link
+     * up"]; Restoring -> Connected; Restoring -> Lost [label="attempt failed"]; Lost -> Restoring
+     * [label="delay over, retryNow"]; Connected -> Suspect [label="no answer yet"]; Suspect ->
+     * Connected [label="heard"]; Connected -> Lost; Suspect -> Lost; }
      * @enddot
      * stop() leads from any state to Stopped.
      */

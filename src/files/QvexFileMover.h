@@ -19,8 +19,9 @@ class FcpAppCORBA;
  * | 2 | the destination exists and overwriting was not allowed |
  * | 3 | aborted |
  *
- * A transfer blocks the calling thread. What a failed or aborted one has written stays where it is
- * and is not whole; the remote handle and the local file are closed on every way out.
+ * A transfer blocks the calling thread; one at a time for each mover. What a failed or aborted one
+ * has written stays where it is, under the destination's name, and is not whole. The remote handle
+ * and the local file are closed on every way out.
  */
 class VEX_EXPORT QvexFileMover : public QObject
 {
@@ -33,8 +34,7 @@ public:
     /** @p controller is not owned and must outlive the mover. */
     explicit QvexFileMover(FcpAppCORBA *controller);
     QvexFileMover(FcpAppCORBA *controller, const QString &src, const QString &dst);
-    QvexFileMover(FcpAppCORBA *controller, const QString &src, const QString &dst,
-                  bool overwrite);
+    QvexFileMover(FcpAppCORBA *controller, const QString &src, const QString &dst, bool overwrite);
     ~QvexFileMover() override;
 
     QString getSrc() const;
@@ -70,9 +70,15 @@ Q_SIGNALS:
     void progress(const QString &file, qint64 done, qint64 total);
 
 private:
+    enum class State { Idle, Running, Aborting };
+    class Transfer;
+
+    int pushContents(Transfer &transfer);
+    int pullContents(Transfer &transfer);
+
     FcpAppCORBA *m_controller;
     QString m_src;
     QString m_dst;
     bool m_overwrite = false;
-    std::atomic<bool> m_aborted = false;
+    std::atomic<State> m_state = State::Idle;
 };

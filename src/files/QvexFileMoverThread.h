@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QVector>
 
@@ -10,6 +11,7 @@
 #include "VexExport.h"
 
 class FcpAppCORBA;
+class QThread;
 class QvexFileMover;
 
 /**
@@ -73,5 +75,8 @@ private:
     QString m_folder;
     bool m_overwrite = false;
     std::atomic<bool> m_cancelled = false;
-    std::unique_ptr<QvexFileMover> m_mover;
+    std::atomic<bool> m_running = false;
+    const std::unique_ptr<QvexFileMover> m_mover;
+    QPointer<QThread> m_thread;
+    QThread *m_home = nullptr;
 };

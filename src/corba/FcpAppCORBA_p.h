@@ -1,0 +1,112 @@
+#pragma once
+
+#include <QMutex>
+
+#include <atomic>
+#include <functional>
+
+#include "ConnectionGate.h"
+#include "CorbaLogging.h"
+#include "FcpAppCORBA.h"
+#include "FcpLink.h"
+#include "WireConversion.h"
+
+class AppFcpCORBAImpl;
+
+struct FcpAppCORBA::Private
+{
+    Private(FcpAppCORBA *proxy, BiDirectionalCORBA *orb);
+    ~Private();
+
+    std::shared_ptr<FcpLink> currentLink() const;
+    void heard();
+
+    /**
+     * Connects, registers and makes that the current link; on failure the reason is in m_lastError
+     * and the link is as it was. With @p onlyIfLost it does nothing when there is a link.
+     */
+    bool connectTo(const QString &host, int port, bool onlyIfLost);
+    /// Makes a registered link, or throws.
+    std::shared_ptr<FcpLink> makeLink(const QString &host, int port);
+    /// Puts @p fresh in the place of the link that was there, which is let go.
+    void replaceLink(const std::shared_ptr<FcpLink> &fresh);
+    /// Takes @p link away if it is still the current one, and says so: once for each link.
+    void linkFailed(const std::shared_ptr<FcpLink> &link, const QString &reason);
+    /// Unregisters a link that others have replaced; what comes of it does not matter any more.
+    void letGo(const std::shared_ptr<FcpLink> &link);
+    void setError(const QString &reason);
+
+    void activateCallback();
+    void deactivateCallback();
+
+    /// Whether the arguments of a call fit the wire; says so in the log when they don't.
+    template<typename... Arguments>
+    bool admits(const Arguments &...arguments) const
+    {
+        const bool fit = (WireConversion::canTravel(arguments) && ...);
+        if (!fit) {
+            qCWarning(lcCorba) << "not sent to the controller: a text with a NUL character, or a "
+                                  "number beyond 32 bits";
+        }
+        return fit;
+    }
+
+    /**
+     * The way of every call: @p call is made on @p link, and when it throws anything the link is
+     * lost and @p failure the result.
+     */
+    template<typename Result, typename Call>
+    Result callOn(const std::shared_ptr<FcpLink> &link, Result failure, Call &&call)
+    {
+        try {
+            const ConnectionGate::BoundCall bound(link->connection());
+            Result result = call(*link);
+            heard();
+            return result;
+        } catch (...) {
+            linkFailed(link, describeCurrentException());
+            return failure;
+        }
+    }
+
+    /// A call on the current link; without one the result is @p zero.
+    template<typename Result, typename Call>
+    Result call(Result zero, Call &&call)
+    {
+        const std::shared_ptr<FcpLink> link = currentLink();
+        return link ? callOn(link, zero, std::forward<Call>(call)) : zero;
+    }
+
+    /// A call that returns nothing but what it assigns.
+    template<typename Call>
+    void callVoid(Call &&call)
+    {
+        this->call(false, [&call](FcpLink &link) {
+            call(link);
+            return true;
+        });
+    }
+
+    /// The exception being handled, in words.
+    static QString describeCurrentException();
+
+    FcpAppCORBA *const q;
+    BiDirectionalCORBA *const corba;
+    AppFcpCORBAImpl *const callback;
+
+    /// One connectToFCP() at a time.
+    QMutex connecting;
+    PortableServer::ObjectId_var callbackId;
+    bool callbackIdWasRegistered = false;
+
+    /// Guards what follows; never held across a call.
+    mutable QMutex mutex;
+    std::shared_ptr<FcpLink> m_link;
+    std::shared_ptr<FcpLink> m_lostLink;
+    QString m_host;
+    int m_port = 0;
+    QString m_lastError;
+
+    std::atomic<quint64> linkCount = 0;
+    std::atomic<qint64> lastHeard = 0; ///< milliseconds of the steady clock; 0: never
+};

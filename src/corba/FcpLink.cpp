@@ -1,0 +1,58 @@
+#include "FcpLink.h"
+
+#include <cstring>
+
+#include "CorbaLogging.h"
+#include "WireConversion.h"
+
+FcpLink::FcpLink(FcpAppInterfaceCORBA_ptr controller, FcpContentsCORBA_ptr contents,
+                 CORBA::Long clientId, const QByteArray &connection, quint64 serial)
+    : m_controller(FcpAppInterfaceCORBA::_duplicate(controller))
+    , m_contents(FcpContentsCORBA::_duplicate(contents))
+    , m_clientId(clientId)
+    , m_connection(connection)
+    , m_serial(serial)
+{
+}
+
+FileSystemResult FcpLink::openFile(const QString &path, bool write, bool overwrite, long &handle)
+{
+    CORBA::Long wireHandle = 0;
+    const FileSystemResult result = m_controller->openFile(WireConversion::toWire(path).constData(),
+                                                           write, overwrite, wireHandle);
+    handle = wireHandle;
+    return result;
+}
+
+FileSystemResult FcpLink::closeFile(long handle)
+{
+    return m_controller->closeFile(WireConversion::toWire(handle));
+}
+
+FileSystemResult FcpLink::pushFileContents(long handle, const char *data, long size)
+{
+    // Borrows the caller's bytes: nothing is copied before they reach the socket.
+    const auto length = static_cast<CORBA::ULong>(size);
+    auto *bytes = reinterpret_cast<CORBA::Octet *>(const_cast<char *>(data));
+    const OctetSequence borrowed(length, length, bytes, false);
+    return m_contents->pushFileContents(WireConversion::toWire(handle), borrowed);
+}
+
+FileSystemResult FcpLink::pullFileContents(long handle, long wanted, long &got, char *buffer)
+{
+    OctetSequence_var bytes;
+    const FileSystemResult result = m_contents->pullFileContents(
+        WireConversion::toWire(handle), WireConversion::toWire(wanted), bytes.out());
+    const long length = static_cast<long>(bytes->length());
+    if (length > wanted) {
+        qCWarning(lcCorba) << "the controller sent" << length << "bytes where" << wanted
+                           << "were asked for; they are dropped";
+        got = 0;
+        return FS_ERROR;
+    }
+    if (length > 0) {
+        std::memcpy(buffer, bytes->NP_data(), static_cast<size_t>(length));
+    }
+    got = length;
+    return result;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <atomic>
+
+#include <FcpContents.hh>
+#include <FcpInterfaces.hh>
+
+/**
+ * One link to the controller: its references, and the connection on which this client registered.
+ *
+ * Shared by all who make calls on it; a new connectToFCP() makes a new one. The calls in here are
+ * raw: they throw, and leave it to the proxy what that means.
+ */
+class FcpLink
+{
+public:
+    FcpLink(FcpAppInterfaceCORBA_ptr controller, FcpContentsCORBA_ptr contents,
+            CORBA::Long clientId, const QByteArray &connection, quint64 serial);
+
+    FcpAppInterfaceCORBA_ptr controller() const { return m_controller.in(); }
+    CORBA::Long clientId() const { return m_clientId; }
+    /** The local address of the connection, as ConnectionGate knows it. */
+    const QByteArray &connection() const { return m_connection; }
+    quint64 serial() const { return m_serial; }
+
+    /** Whether the caller is the one to unregister: true once. */
+    bool takeRegistration() { return m_registered.exchange(false); }
+
+    FileSystemResult openFile(const QString &path, bool write, bool overwrite, long &handle);
+    FileSystemResult closeFile(long handle);
+    FileSystemResult pushFileContents(long handle, const char *data, long size);
+    FileSystemResult pullFileContents(long handle, long wanted, long &got, char *buffer);
+
+private:
+    const FcpAppInterfaceCORBA_var m_controller;
+    const FcpContentsCORBA_var m_contents;
+    const CORBA::Long m_clientId;
+    const QByteArray m_connection;
+    const quint64 m_serial;
+    std::atomic<bool> m_registered = true;
+};
