@@ -1,6 +1,7 @@
 #include "BiDirectionalCORBA.h"
 
 #include <QMutex>
+#include <QRegularExpression>
 
 #include <arpa/inet.h>
 #include <ifaddrs.h>
@@ -34,8 +35,9 @@ void logOfTheOrb(const char *message)
 
 QString takeOrbComplaint()
 {
+    static const QRegularExpression prefix(uR"(^omniORB: \(\d+\) \S+ \S+: )"_s);
     const QMutexLocker locker(&s_orbLogMutex);
-    return std::exchange(s_orbComplaint, {});
+    return std::exchange(s_orbComplaint, {}).remove(prefix);
 }
 
 // A call that failed is reported, never repeated behind the caller's back.
