@@ -272,6 +272,9 @@ long FcpAppCORBA::requestResources(const QVector<ResourceRequestInformation> &re
 
 long FcpAppCORBA::getResourceRequestStatus(long requestId)
 {
+    if (!d->admits(requestId)) {
+        throw CORBA::BAD_PARAM(0, CORBA::COMPLETED_NO);
+    }
     const auto link = d->currentLink();
     if (!link) {
         return FcpAppInterfaceCORBA::_nil()->getResourceRequestStatus(toWire(requestId));

@@ -21,6 +21,43 @@ constexpr auto ProgressInterval = std::chrono::milliseconds(50);
 /// Answers without a single byte that are borne in a row before the controller counts as broken.
 constexpr int EmptyAnswersBorne = 1000;
 
+/// Runs a transfer; whatever it throws, its files are closed by then, and it has failed.
+template<typename Body>
+int guarded(const QString &source, Body &&body)
+{
+    try {
+        return body();
+    } catch (const std::exception &exception) {
+        qCDebug(lcMover) << "moving" << source << "failed:" << exception.what();
+    } catch (...) {
+        qCDebug(lcMover) << "moving" << source << "failed by an unknown exception";
+    }
+    return Failed;
+}
+
+/// Opens @p target for writing a new file, with its missing folders.
+int openLocalTarget(QFile &target, bool overwrite)
+{
+    if (target.exists()) {
+        if (!overwrite) {
+            return Exists;
+        }
+        if (!target.remove()) {
+            qCDebug(lcMover) << "cannot remove" << target.fileName() << target.errorString();
+            return Failed;
+        }
+    }
+    if (!QDir().mkpath(QFileInfo(target.fileName()).path())) {
+        qCDebug(lcMover) << "cannot make the folder of" << target.fileName();
+        return Failed;
+    }
+    if (!target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        qCDebug(lcMover) << "cannot write" << target.fileName() << target.errorString();
+        return Failed;
+    }
+    return Done;
+}
+
 } // namespace
 
 /**
@@ -137,21 +174,18 @@ void QvexFileMover::runDownload()
 
 int QvexFileMover::uploadFile(const QString &localSrc, const QString &remoteDst, bool overwrite)
 {
-    try {
+    return guarded(localSrc, [&] {
         Transfer transfer(this, localSrc, localSrc);
         if (!transfer.local.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
             qCDebug(lcMover) << "cannot read" << localSrc << transfer.local.errorString();
-            return Failed;
+            return int(Failed);
         }
         const FileSystemResult opened = transfer.remote.open(remoteDst, true, overwrite);
         if (opened != FS_OK) {
-            return opened == FS_EXISTS ? Exists : Failed;
+            return int(opened == FS_EXISTS ? Exists : Failed);
         }
         return pushContents(transfer);
-    } catch (const std::exception &exception) {
-        qCDebug(lcMover) << "uploading" << localSrc << "failed:" << exception.what();
-        return Failed;
-    }
+    });
 }
 
 int QvexFileMover::pushContents(Transfer &transfer)
@@ -182,33 +216,17 @@ int QvexFileMover::pushContents(Transfer &transfer)
 
 int QvexFileMover::downloadFile(const QString &remoteSrc, const QString &localDst, bool overwrite)
 {
-    try {
+    return guarded(remoteSrc, [&] {
         Transfer transfer(this, remoteSrc, localDst);
-        if (transfer.local.exists()) {
-            if (!overwrite) {
-                return Exists;
-            }
-            if (!transfer.local.remove()) {
-                qCDebug(lcMover) << "cannot remove" << localDst << transfer.local.errorString();
-                return Failed;
-            }
-        }
-        if (!QDir().mkpath(QFileInfo(localDst).path())) {
-            qCDebug(lcMover) << "cannot make the folder of" << localDst;
-            return Failed;
-        }
-        if (!transfer.local.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-            qCDebug(lcMover) << "cannot write" << localDst << transfer.local.errorString();
-            return Failed;
+        const int prepared = openLocalTarget(transfer.local, overwrite);
+        if (prepared != Done) {
+            return prepared;
         }
         if (transfer.remote.open(remoteSrc, false, false) != FS_OK) {
-            return Failed;
+            return int(Failed);
         }
         return pullContents(transfer);
-    } catch (const std::exception &exception) {
-        qCDebug(lcMover) << "downloading" << remoteSrc << "failed:" << exception.what();
-        return Failed;
-    }
+    });
 }
 
 int QvexFileMover::pullContents(Transfer &transfer)
