@@ -293,7 +293,10 @@ void BiDirectionalCORBA::runORB()
     try {
         d->orb->run();
     } catch (const CORBA::Exception &exception) {
-        qCWarning(lcCorba) << "the ORB's event loop has ended:" << exception._name();
+        // Refused is the loop of an ORB that was shut down before this thread came to run it.
+        if (!isInterruptionRequested()) {
+            qCWarning(lcCorba) << "the ORB's event loop has ended:" << exception._name();
+        }
     }
 }
 
@@ -302,6 +305,7 @@ void BiDirectionalCORBA::shutdownORB()
     if (CORBA::is_nil(d->orb)) {
         return;
     }
+    requestInterruption();
     try {
         d->orb->shutdown(false);
     } catch (const CORBA::Exception &exception) {
