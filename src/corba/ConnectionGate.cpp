@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include <fcntl.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
@@ -29,16 +30,18 @@ namespace {
 thread_local const QByteArray *t_bound = nullptr;
 thread_local ConnectionGate::Registration *t_registration = nullptr;
 
+/// The socket of a connection, or -1 when it is none over TCP.
+int socketOf(const omni::giopStrand &strand)
+{
+    const auto *tcp = dynamic_cast<omni::tcpConnection *>(strand.connection);
+    return tcp ? tcp->handle() : -1;
+}
+
 /// Lets the kernel find a peer that is gone without a word (cable pulled, power lost) on a
 /// connection that carries nothing: after 10 s of silence, 3 probes 5 s apart. The ORB sets no
 /// timer of its own on a connection.
-void keepAlive(const omni::giopStrand &strand)
+void keepAlive(int socket)
 {
-    const auto *tcp = dynamic_cast<omni::tcpConnection *>(strand.connection);
-    if (!tcp) {
-        return;
-    }
-    const int socket = tcp->handle();
     const auto set = [socket](int level, int option, int value) {
         ::setsockopt(socket, level, option, &value, sizeof value);
     };
@@ -48,6 +51,12 @@ void keepAlive(const omni::giopStrand &strand)
     set(IPPROTO_TCP, TCP_KEEPCNT, 3);
 }
 
+SharedSocket duplicate(int socket)
+{
+    const int copy = ::fcntl(socket, F_DUPFD_CLOEXEC, 0);
+    return copy < 0 ? nullptr : std::make_shared<const SocketHandle>(copy);
+}
+
 CORBA::Boolean openConnection(omni::omniInterceptors::clientOpenConnection_T::info_T &info)
 {
     if (t_bound) {
@@ -55,7 +64,7 @@ CORBA::Boolean openConnection(omni::omniInterceptors::clientOpenConnection_T::in
         info.why = "the client is not registered on a new connection";
         return true;
     }
-    keepAlive(info.giop_c.strand());
+    keepAlive(socketOf(info.giop_c.strand()));
     return true;
 }
 
@@ -63,7 +72,7 @@ CORBA::Boolean sendRequest(omni::omniInterceptors::clientSendRequest_T::info_T &
 {
     const char *connection = info.myaddress();
     if (t_registration && connection && std::strcmp(info.operation(), "registerApp") == 0) {
-        t_registration->setConnection(connection);
+        t_registration->setConnection(connection, duplicate(socketOf(info.giop_c.strand())));
     }
     if (t_bound && (!connection || *t_bound != connection)) {
         // Nothing has been sent: marked idle, the stream goes back unused. Otherwise the ORB would

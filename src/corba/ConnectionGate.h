@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+#include "SocketHandle.h"
+
 /**
  * Says over which connection a call may go, and who may call this process.
  *
@@ -41,10 +43,17 @@ public:
 
     /** The connection's local address, which names it; empty before registerApp was sent. */
     const QByteArray &connection() const { return m_connection; }
-    void setConnection(const char *address) { m_connection = address; }
+    /** The socket of that connection; null when it has none that could be watched. */
+    const SharedSocket &socket() const { return m_socket; }
+    void setConnection(const char *address, const SharedSocket &socket)
+    {
+        m_connection = address;
+        m_socket = socket;
+    }
 
 private:
     QByteArray m_connection;
+    SharedSocket m_socket;
 };
 
 } // namespace ConnectionGate

@@ -99,6 +99,7 @@ void FcpAppCORBA::communicationError()
         const QMutexLocker locker(&d->mutex);
         if (d->m_link) {
             d->m_lostLink = std::exchange(d->m_link, nullptr);
+            d->m_lostLink->dropSocket();
         }
     }
     Q_EMIT disconnectCatched(-1);

@@ -148,7 +148,7 @@ std::shared_ptr<FcpLink> FcpAppCORBA::Private::makeLink(const QString &host, int
     callbackIdWasRegistered = true;
     const CORBA::Long id = controller->registerApp(self);
     return std::make_shared<FcpLink>(controller, contents, id, registration.connection(),
-                                     ++linkCount);
+                                     registration.socket(), ++linkCount);
 }
 
 bool FcpAppCORBA::Private::connectTo(const QString &host, int port, bool onlyIfLost)
@@ -186,6 +186,7 @@ void FcpAppCORBA::Private::replaceLink(const std::shared_ptr<FcpLink> &fresh)
     qCDebug(lcCorba) << "registered as client" << fresh->clientId() << "on"
                      << fresh->connection().constData();
     if (replaced) {
+        replaced->dropSocket();
         letGo(replaced);
     }
     // A call that failed while its connection lived left a registration behind. On another
@@ -217,6 +218,7 @@ void FcpAppCORBA::Private::linkFailed(const std::shared_ptr<FcpLink> &failed, co
             return; // somebody else reported it, or it was replaced meanwhile
         }
         m_lostLink = std::exchange(m_link, nullptr);
+        m_lostLink->dropSocket();
         m_lastError = u"the link to %1 is lost: %2"_s.arg(m_host, reason);
         qCDebug(lcCorba).noquote() << m_lastError;
     }

@@ -4,9 +4,12 @@
 #include <QString>
 
 #include <atomic>
+#include <mutex>
 
 #include <FcpContents.hh>
 #include <FcpInterfaces.hh>
+
+#include "SocketHandle.h"
 
 /**
  * One link to the controller: its references, and the connection on which this client registered.
@@ -18,13 +21,19 @@ class FcpLink
 {
 public:
     FcpLink(FcpAppInterfaceCORBA_ptr controller, FcpContentsCORBA_ptr contents,
-            CORBA::Long clientId, const QByteArray &connection, quint64 serial);
+            CORBA::Long clientId, const QByteArray &connection, const SharedSocket &socket,
+            quint64 serial);
 
     FcpAppInterfaceCORBA_ptr controller() const { return m_controller.in(); }
     CORBA::Long clientId() const { return m_clientId; }
     /** The local address of the connection, as ConnectionGate knows it. */
     const QByteArray &connection() const { return m_connection; }
     quint64 serial() const { return m_serial; }
+
+    /** The socket of the connection, to watch it; null once the link was dropped. */
+    SharedSocket socket() const;
+    /** To be called when the link is lost or replaced: lets the connection close. */
+    void dropSocket();
 
     /** Whether the caller is the one to unregister: true once. */
     bool takeRegistration() { return m_registered.exchange(false); }
@@ -41,4 +50,6 @@ private:
     const QByteArray m_connection;
     const quint64 m_serial;
     std::atomic<bool> m_registered = true;
+    mutable std::mutex m_socketMutex;
+    SharedSocket m_socket;
 };

@@ -5,9 +5,9 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <condition_variable>
 #include <mutex>
 
+#include "Bell.h"
 #include "FcpAppCORBA.h"
 #include "FcpAppCORBA_p.h"
 #include "ThreadCallTimeOut.h"
@@ -25,6 +25,8 @@ struct Settings
     milliseconds firstDelay = 1s;
     milliseconds longestDelay = 10s;
 };
+
+constexpr milliseconds Forever(-1);
 
 /// @p delay less a random part of up to a quarter.
 milliseconds jittered(milliseconds delay)
@@ -55,6 +57,8 @@ struct VexLinkSupervisor::Private
     void askForSignOfLife(Lock &lock);
     void restore(Lock &lock);
     void waitForNextAttempt(Lock &lock);
+    /// Waits without the lock.
+    Bell::Woken wait(Lock &lock, milliseconds timeOut, const SharedSocket &socket = nullptr);
     bool linkIsUp() const;
     bool isCurrent(quint64 aWatch) const { return !quit && watching && watchSerial == aWatch; }
     void post(State state, const QString &reason);
@@ -76,15 +80,9 @@ struct VexLinkSupervisor::Private
 
     /// Shared with the connection to the proxy, whose signal another thread may be emitting while
     /// the supervisor goes.
-    struct Bell
-    {
-        std::mutex mutex;
-        std::condition_variable wake;
-    };
     const std::shared_ptr<Bell> bell = std::make_shared<Bell>();
-    std::mutex &mutex = bell->mutex;
-    std::condition_variable &wake = bell->wake;
 
+    mutable std::mutex mutex;
     // Guarded by the mutex
     Settings settings;
     QString host;
@@ -97,15 +95,25 @@ struct VexLinkSupervisor::Private
     quint64 seenWatch = 0;
     quint64 seenLink = 0; ///< the link that was reported as Connected; 0: none yet
     bool lossReported = false;
+    quint64 hungUpLink = 0; ///< the link whose peer closed the connection; told once
     int failedAttempts = 0;
 };
+
+Bell::Woken VexLinkSupervisor::Private::wait(Lock &lock, milliseconds timeOut,
+                                             const SharedSocket &socket)
+{
+    lock.unlock();
+    const Bell::Woken woken = bell->wait(timeOut, socket ? socket->descriptor() : -1);
+    lock.lock();
+    return woken;
+}
 
 void VexLinkSupervisor::Private::work()
 {
     Lock lock(mutex);
     while (!quit) {
         if (!watching) {
-            wake.wait(lock);
+            wait(lock, Forever);
             continue;
         }
         if (seenWatch != watchSerial) {
@@ -130,25 +138,30 @@ bool VexLinkSupervisor::Private::linkIsUp() const
 
 void VexLinkSupervisor::Private::watch(Lock &lock)
 {
-    const quint64 serial = controller->linkSerial();
-    if (serial != seenLink && serial != 0) {
+    const std::shared_ptr<FcpLink> link = controller->d->currentLink();
+    if (!link) {
+        return;
+    }
+    const quint64 serial = link->serial();
+    if (serial != seenLink) {
         const bool wasLost = seenLink != 0 || lossReported;
         seenLink = serial;
         failedAttempts = 0;
         post(State::Connected,
-             tr("registered with %1:%2 as client %3")
-                 .arg(host)
-                 .arg(port)
-                 .arg(controller->clientId()));
+             tr("registered with %1:%2 as client %3").arg(host).arg(port).arg(link->clientId()));
         if (wasLost) {
             lossReported = false;
             postRestored();
         }
     }
     const milliseconds quiet(std::max<qint64>(controller->millisecondsSinceHeard(), 0));
-    if (quiet < settings.interval) {
-        wake.wait_for(lock, settings.interval - quiet);
-    } else {
+    if (quiet >= settings.interval) {
+        askForSignOfLife(lock);
+        return;
+    }
+    const SharedSocket socket = hungUpLink == serial ? nullptr : link->socket();
+    if (wait(lock, settings.interval - quiet, socket) == Bell::Woken::HungUp) {
+        hungUpLink = serial;
         askForSignOfLife(lock);
     }
 }
@@ -196,6 +209,9 @@ void VexLinkSupervisor::Private::restore(Lock &lock)
         connected = controller->d->connectTo(toHost, toPort, sameAddress);
     }
     const QString failure = controller->lastError();
+    if (!connected && controller->isConnected()) {
+        controller->communicationError(); // a link to another address is not what was asked for
+    }
     lock.lock();
     if (connected || !isCurrent(thisWatch)) {
         return; // the next round sees what there is
@@ -211,9 +227,16 @@ void VexLinkSupervisor::Private::waitForNextAttempt(Lock &lock)
     const int doublings = std::min(failedAttempts - 1, 16);
     const milliseconds delay =
         std::min(settings.firstDelay * (1 << doublings), settings.longestDelay);
+    const auto deadline = std::chrono::steady_clock::now() + jittered(delay);
     retry = false;
-    wake.wait_for(lock, jittered(delay),
-                  [this, thisWatch] { return retry || !isCurrent(thisWatch) || linkIsUp(); });
+    while (!retry && isCurrent(thisWatch) && !linkIsUp()) {
+        const auto left =
+            std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left <= 0ms) {
+            return;
+        }
+        wait(lock, left);
+    }
 }
 
 template<typename Function>
@@ -271,11 +294,7 @@ VexLinkSupervisor::VexLinkSupervisor(FcpAppCORBA *controller, QObject *parent)
     });
     // A loss that somebody else's call has found needs no sign of life to be noticed.
     connect(
-        controller, &FcpAppCORBA::disconnectCatched, this,
-        [bell = d->bell] {
-            const Private::Lock lock(bell->mutex);
-            bell->wake.notify_all();
-        },
+        controller, &FcpAppCORBA::disconnectCatched, this, [bell = d->bell] { bell->ring(); },
         Qt::DirectConnection);
     d->thread.reset(QThread::create([this] { d->work(); }));
     d->thread->setObjectName(QStringLiteral("VexLink"));
@@ -289,7 +308,7 @@ VexLinkSupervisor::~VexLinkSupervisor()
         const Private::Lock lock(d->mutex);
         d->quit = true;
     }
-    d->wake.notify_all();
+    d->bell->ring();
     d->thread->wait();
 }
 
@@ -320,7 +339,7 @@ void VexLinkSupervisor::setInterval(milliseconds interval)
         const Private::Lock lock(d->mutex);
         d->settings.interval = std::max(interval, 1ms);
     }
-    d->wake.notify_all();
+    d->bell->ring();
 }
 
 milliseconds VexLinkSupervisor::answerTimeOut() const
@@ -363,7 +382,7 @@ void VexLinkSupervisor::start(const QString &host, int port)
         d->watching = true;
         ++d->watchSerial;
     }
-    d->wake.notify_all();
+    d->bell->ring();
 }
 
 void VexLinkSupervisor::stop()
@@ -373,7 +392,7 @@ void VexLinkSupervisor::stop()
         d->watching = false;
         ++d->watchSerial;
     }
-    d->wake.notify_all();
+    d->bell->ring();
     if (d->state != State::Stopped) {
         d->enter(State::Stopped, tr("no longer watched"), QDateTime::currentDateTime());
     }
@@ -385,5 +404,5 @@ void VexLinkSupervisor::retryNow()
         const Private::Lock lock(d->mutex);
         d->retry = true;
     }
-    d->wake.notify_all();
+    d->bell->ring();
 }

@@ -15,8 +15,9 @@ class FcpAppCORBA;
  * Keeps the link to the controller up, for applications that want that.
  *
  * It asks the controller for a sign of life (isMaximumClientCountOK) when nothing else was heard of
- * it for interval(), and after a loss it connects and registers anew, with delays that grow from
- * one attempt to the next and are jittered so that many clients don't come back in step.
+ * it for interval(), and at once when the connection was closed at the other end. After a loss it
+ * connects and registers anew, with delays that grow from one attempt to the next and are jittered
+ * so that many clients don't come back in step.
  *
  * All calls to the controller are made on a thread of its own: no method blocks, but for the
  * destructor, which waits for a call that is under way (bounded by answerTimeOut() and the ORB's
