@@ -1,0 +1,191 @@
+#include "ControllerServer.h"
+
+#include <netdb.h>
+#include <sys/socket.h>
+
+#include <cerrno>
+#include <cstring>
+#include <map>
+#include <mutex>
+
+#include <omniORB4/BiDirPolicy.h>
+#include <omniORB4/callHandle.h>
+#include <omniORB4/omniURI.h>
+
+#include <FcpInterfaces.hh>
+
+#include "UniqueFd.h"
+
+namespace {
+
+constexpr char ObjectKey[] = "bidir/FcpApp";
+constexpr char RepositoryId[] = "IDL:FcpAppInterfaceCORBA:1.0";
+
+std::string inBrackets(const std::string &host)
+{
+    return host.find(':') == host.npos || host.front() == '[' ? host : '[' + host + ']';
+}
+
+/// Why nothing can listen there; the ORB does not say.
+std::string bindError(const std::string &host, unsigned short port)
+{
+    addrinfo hints = {};
+    hints.ai_socktype = SOCK_STREAM;
+    hints.ai_flags = AI_PASSIVE;
+    addrinfo *found = nullptr;
+    const int code = ::getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found);
+    if (code != 0) {
+        return ::gai_strerror(code);
+    }
+    const std::unique_ptr<addrinfo, void (*)(addrinfo *)> address(found, ::freeaddrinfo);
+    const UniqueFd fd(::socket(address->ai_family, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    const int yes = 1;
+    ::setsockopt(fd.get(), SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+    if (::bind(fd.get(), address->ai_addr, address->ai_addrlen) == 0
+        && ::listen(fd.get(), 1) == 0) {
+        return "the ORB can not listen";
+    }
+    return std::strerror(errno);
+}
+
+IIOP::ProfileBody profileOf(CORBA::Object_ptr object)
+{
+    const omniIOR_var ior = object->_PR_getobj()->_getIOR();
+    IIOP::ProfileBody body;
+    IIOP::unmarshalProfile(ior->iopProfiles()[0], body);
+    return body;
+}
+
+} // namespace
+
+/// Answers under the well-known key, whatever is called, by telling where the object really is.
+class ControllerServer::Forwarder : public virtual PortableServer::ServantBase
+{
+public:
+    explicit Forwarder(CORBA::Object_ptr object)
+        : m_profile(profileOf(object))
+    {
+    }
+
+    unsigned short port() const { return m_profile.address.port; }
+
+    CORBA::Boolean _dispatch(omniCallHandle &call) override
+    {
+        const char *address = call.myaddress();
+        throw omniORB::LOCATION_FORWARD(objectAt(address ? address : ""), false);
+    }
+    const char *_mostDerivedRepoId() override { return RepositoryId; }
+
+private:
+    /// A reference to the object by the address ("giop:tcp:HOST:PORT") that a client has used.
+    CORBA::Object_ptr objectAt(const std::string &address)
+    {
+        const std::lock_guard lock(m_mutex);
+        CORBA::Object_var &object = m_objects[address];
+        if (CORBA::is_nil(object)) {
+            IIOP::Address used = m_profile.address;
+            CORBA::UShort port = 0;
+            const CORBA::String_var host(
+                omni::omniURI::extractHostPort(address.c_str() + std::strlen("giop:tcp:"), port));
+            if (host.in()) {
+                used.host = host;
+                used.port = port;
+            }
+            auto *ior = new omniIOR(RepositoryId, m_profile.object_key, &used, 1, m_profile.version,
+                                    omniIOR::NoInterceptor, &m_profile.components);
+            omniObjRef *reference = omni::createObjRef(CORBA::Object::_PD_repoId, ior, false);
+            object =
+                static_cast<CORBA::Object_ptr>(reference->_ptrToObjRef(CORBA::Object::_PD_repoId));
+        }
+        return CORBA::Object::_duplicate(object);
+    }
+
+    const IIOP::ProfileBody m_profile;
+    std::mutex m_mutex;
+    std::map<std::string, CORBA::Object_var> m_objects;
+};
+
+ControllerServer::ControllerServer() = default;
+
+ControllerServer::~ControllerServer() = default;
+
+bool ControllerServer::initialize(int &argc, char **argv, const std::string &host,
+                                  unsigned short port)
+{
+    m_host = host;
+    m_port = port;
+    const std::string endPoint =
+        "giop:tcp:" + inBrackets(host) + ':' + (port == 0 ? "" : std::to_string(port));
+    const char *options[][2] = {
+        {"endPoint", endPoint.c_str()},
+        {"acceptBiDirectionalGIOP", "1"},
+        {"serverTransportRule", "* tcp,bidir"},
+        // A client that can not be called over its own connection is not called at all.
+        {"clientTransportRule", "* none"},
+        {"giopMaxMsgSize", "536870912"},
+        // A client that stops reading holds its own sender's thread this long, in milliseconds.
+        {"clientCallTimeOutPeriod", "5000"},
+        // Likewise one that stops in the middle of a request, or does not take an answer.
+        {"serverCallTimeOutPeriod", "30000"},
+        // Calls that come while another one is carried out on the same connection start at once.
+        {"connectionWatchImmediate", "1"},
+        {"maxServerThreadPerConnection", "1000"},
+        {"maxServerThreadPoolSize", "10000"},
+        {"traceLevel", "0"},
+        {nullptr, nullptr},
+    };
+    try {
+        m_orb = CORBA::ORB_init(argc, argv, "omniORB4", options);
+        return true;
+    } catch (const CORBA::Exception &exception) {
+        m_error = std::string("the ORB does not accept its options (") + exception._name() + ')';
+        return false;
+    }
+}
+
+bool ControllerServer::serve(PortableServer::Servant servant)
+{
+    try {
+        CORBA::Object_var object = m_orb->resolve_initial_references("RootPOA");
+        const PortableServer::POA_var root = PortableServer::POA::_narrow(object);
+        const PortableServer::POAManager_var manager = root->the_POAManager();
+
+        CORBA::PolicyList policies(3);
+        policies.length(3);
+        CORBA::Any both;
+        both <<= BiDirPolicy::BOTH;
+        policies[0] = m_orb->create_policy(BiDirPolicy::BIDIRECTIONAL_POLICY_TYPE, both);
+        // The object's key stays the same from one run to the next, as a real controller's does.
+        policies[1] = root->create_lifespan_policy(PortableServer::PERSISTENT);
+        policies[2] = root->create_id_assignment_policy(PortableServer::USER_ID);
+        const PortableServer::POA_var poa = root->create_POA("bidir", manager, policies);
+        const PortableServer::ObjectId_var id = PortableServer::string_to_ObjectId("FcpApp");
+        poa->activate_object_with_id(id, servant);
+        const CORBA::Object_var reference = poa->id_to_reference(id);
+        m_forwarder = std::make_unique<Forwarder>(reference);
+        m_port = m_forwarder->port();
+
+        object = m_orb->resolve_initial_references("omniINSPOA");
+        const PortableServer::POA_var insPoa = PortableServer::POA::_narrow(object);
+        const PortableServer::ObjectId_var key = PortableServer::string_to_ObjectId(ObjectKey);
+        insPoa->activate_object_with_id(key, m_forwarder.get());
+        PortableServer::POAManager_var(insPoa->the_POAManager())->activate();
+        manager->activate();
+        return true;
+    } catch (const CORBA::INITIALIZE &) {
+        m_error = "can not listen on " + inBrackets(m_host) + ':' + std::to_string(m_port) + ": "
+            + bindError(m_host, m_port);
+    } catch (const CORBA::Exception &exception) {
+        m_error = std::string("the ORB does not start (") + exception._name() + ')';
+    }
+    return false;
+}
+
+void ControllerServer::destroy()
+{
+    try {
+        m_orb->destroy();
+    } catch (const CORBA::Exception &) {
+        // It is gone already.
+    }
+}
