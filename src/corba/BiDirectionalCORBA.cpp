@@ -11,6 +11,9 @@
 #include <unistd.h>
 
 #include <omniORB4/BiDirPolicy.h>
+#include <omniORB4/omniServer.h>
+
+#include <omniORB4/internal/objectAdapter.h>
 
 #include "ConnectionGate.h"
 #include "CorbaLogging.h"
@@ -84,6 +87,18 @@ bool isFree(const ListenEndpoint &endpoint, int port)
         && ::listen(socket, 1) == 0;
     ::close(socket);
     return free;
+}
+
+/// The port of the first endpoint over TCP, "giop:tcp:host:port"; 0 when there is none.
+unsigned short portOf(const omni::orbServer::EndpointList &endpoints)
+{
+    for (CORBA::ULong i = 0; i < endpoints.length(); ++i) {
+        const QByteArrayView endpoint(endpoints[i].in());
+        if (endpoint.startsWith("giop:tcp:")) {
+            return endpoint.sliced(endpoint.lastIndexOf(':') + 1).toUShort();
+        }
+    }
+    return 0;
 }
 
 /// omniORB takes its arguments as a C program does.
@@ -217,7 +232,6 @@ bool BiDirectionalCORBA::startORB(const QVector<QString> &args)
         }
         if (tryORB(QVector<QString> {u"-ORBendPoint"_s, endpoint.forOmniOrb(port)}
                    + arguments.words)) {
-            d->port = static_cast<unsigned short>(port);
             return true;
         }
         if (port == 0 || isFree(endpoint, port)) {
@@ -239,12 +253,15 @@ bool BiDirectionalCORBA::tryORB(const QVector<QString> &words)
     }
     omniORB::setLogFunction(logOfTheOrb);
     takeOrbComplaint();
+    // Its default, at which it names a wrong argument; an earlier instance may have silenced it.
+    omniORB::traceLevel = 1;
     ArgumentVector argv(words);
     try {
         d->orb = CORBA::ORB_init(argv.count(), argv.pointers());
         forbidRetries();
         ConnectionGate::install();
         initializePOA();
+        d->port = portOf(omni::omniObjAdapter::listMyEndpoints());
         return true;
     } catch (const CORBA::Exception &exception) {
         const QString complaint = takeOrbComplaint();
