@@ -1,0 +1,135 @@
+#include "ControllerProcess.h"
+
+#include <QDeadlineTimer>
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PatienceMs = 20'000;
+
+} // namespace
+
+ControllerProcess::ControllerProcess(const QString &program, const QStringList &arguments,
+                                     quint16 publishedPort)
+    : m_program(program)
+    , m_arguments(arguments)
+    , m_publishedPort(publishedPort)
+{
+    // Whatever becomes of the test, its controller goes with it.
+    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+}
+
+ControllerProcess::~ControllerProcess()
+{
+    if (isRunning()) {
+        kill();
+    }
+}
+
+void ControllerProcess::start()
+{
+    QStringList arguments = m_arguments;
+    arguments << u"--port"_s << QString::number(m_port);
+    if (m_publishedPort != 0) {
+        arguments << u"--publish"_s << u"127.0.0.1:%1"_s.arg(m_publishedPort);
+    }
+    m_process.start(m_program, arguments);
+    const QByteArray ready = readLine();
+    const QByteArray before = ": listening on port ";
+    const qsizetype at = ready.indexOf(before);
+    m_port = at < 0 ? 0 : ready.mid(at + before.size()).toUShort();
+    if (m_port == 0) {
+        qFatal("%s did not become ready: \"%s\" %s", qPrintable(m_program), ready.constData(),
+               errors().constData());
+    }
+}
+
+int ControllerProcess::stop()
+{
+    thaw();
+    m_process.terminate();
+    if (!m_process.waitForFinished(PatienceMs)) {
+        qFatal("%s does not end on SIGTERM", qPrintable(m_program));
+    }
+    return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}
+
+void ControllerProcess::kill()
+{
+    m_process.kill();
+    m_process.waitForFinished(PatienceMs);
+    m_frozen = false;
+}
+
+bool ControllerProcess::isRunning() const
+{
+    return m_process.state() == QProcess::Running;
+}
+
+void ControllerProcess::freeze()
+{
+    signal(SIGSTOP);
+    m_frozen = true;
+}
+
+void ControllerProcess::thaw()
+{
+    if (m_frozen) {
+        signal(SIGCONT);
+        m_frozen = false;
+    }
+}
+
+void ControllerProcess::signal(int number)
+{
+    ::kill(pid_t(m_process.processId()), number);
+    if (number == SIGSTOP) {
+        // It has stopped when waitid says so; the child is left for QProcess to reap.
+        siginfo_t info = {};
+        ::waitid(P_PID, id_t(m_process.processId()), &info, WSTOPPED | WNOWAIT);
+    }
+}
+
+QByteArray ControllerProcess::command(const QByteArray &line)
+{
+    m_process.write(line + '\n');
+    return readLine();
+}
+
+void ControllerProcess::order(const QByteArray &line)
+{
+    const QByteArray answer = command(line);
+    if (!answer.startsWith("ok")) {
+        qFatal("%s answers \"%s\" to \"%s\"", qPrintable(m_program), answer.constData(),
+               line.constData());
+    }
+}
+
+void ControllerProcess::sendEvents(const QByteArray &name, int count)
+{
+    order("event " + name + ' ' + QByteArray::number(count));
+}
+
+QByteArray ControllerProcess::errors()
+{
+    m_process.waitForReadyRead(0);
+    return m_process.readAllStandardError();
+}
+
+QByteArray ControllerProcess::readLine()
+{
+    const QDeadlineTimer deadline(PatienceMs);
+    while (!m_process.canReadLine()) {
+        if (!m_process.waitForReadyRead(int(deadline.remainingTime()))
+            && !m_process.canReadLine()) {
+            qFatal("%s says nothing: %s %s", qPrintable(m_program),
+                   qPrintable(m_process.errorString()), errors().constData());
+        }
+    }
+    return m_process.readLine().trimmed();
+}
