@@ -260,7 +260,7 @@ QVector<Wrapper> directoryWrappers()
           {u"list"_s,
            QJsonArray {QJsonObject {{u"name"_s, wireText(Text)},
                                     {u"date"_s, u"2024-02-29 23:59"_s},
-                                    {u"size"_s, 5'000'000'000},
+                                    {u"size"_s, qint64(5'000'000'000)},
                                     {u"isdir"_s, false},
                                     {u"dircount"_s, 0}},
                        QJsonObject {{u"name"_s, u"d"_s}, {u"isdir"_s, true}, {u"dircount"_s, 3}}}}},
