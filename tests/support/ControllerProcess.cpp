@@ -39,14 +39,12 @@ void ControllerProcess::start()
         arguments << u"--publish"_s << u"127.0.0.1:%1"_s.arg(m_publishedPort);
     }
     m_process.start(m_program, arguments);
-    const QByteArray ready = readLine();
-    const QByteArray before = ": listening on port ";
-    const qsizetype at = ready.indexOf(before);
-    m_port = at < 0 ? 0 : ready.mid(at + before.size()).toUShort();
-    if (m_port == 0) {
-        qFatal("%s did not become ready: \"%s\" %s", qPrintable(m_program), ready.constData(),
-               errors().constData());
-    }
+    const QByteArray announcement = ": listening on port ";
+    QByteArray line;
+    do {
+        line = readLine();
+    } while (!line.contains(announcement));
+    m_port = line.sliced(line.indexOf(announcement) + announcement.size()).toUShort();
 }
 
 int ControllerProcess::stop()

@@ -9,7 +9,7 @@
 /**
  * A test class whose test functions fail on a warning that they did not announce.
  *
- * A test class that derives from it must not have init() and cleanup() of its own.
+ * A test class that has an init() or cleanup() of its own calls this one's there.
  */
 class GuardedTest : public QObject
 {
@@ -18,7 +18,7 @@ class GuardedTest : public QObject
 protected:
     MessageLog &messages() { return *m_messages; }
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init();
     void cleanup();
 
