@@ -7,7 +7,7 @@
 struct Checksum::Private
 {
     std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)> context {EVP_MD_CTX_new(),
-                                                                    &EVP_MD_CTX_free};
+                                                                     &EVP_MD_CTX_free};
 };
 
 Checksum::Checksum()

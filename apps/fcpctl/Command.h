@@ -11,10 +11,10 @@ struct Command
 {
     static constexpr int Any = -1;
 
-    QString name;
-    QString operands; ///< as the usage shows them
-    QString summary;
-    QList<QCommandLineOption> options;
+    QString name = {};
+    QString operands = {}; ///< as the usage shows them
+    QString summary = {};
+    QList<QCommandLineOption> options = {};
     int fewest = 0; ///< operands
     int most = 0; ///< operands; Any when there is no limit
     bool operandsEndOptions = false; ///< what follows the first operand is passed on as it is

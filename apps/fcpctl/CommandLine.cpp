@@ -212,13 +212,13 @@ int runCommandLine(const QStringList &arguments)
     if (tail.isEmpty()) {
         throw Failure {Exit::Usage, u"no command; 'fcpctl --help' lists them"_s};
     }
-    const auto command = std::find_if(
-        commands.begin(), commands.end(),
-        [&tail](const Command &candidate) { return candidate.name == tail.first(); });
+    const auto command =
+        std::find_if(commands.begin(), commands.end(),
+                     [&tail](const Command &candidate) { return candidate.name == tail.first(); });
     if (command == commands.end()) {
-        throw Failure {Exit::Usage,
-                       u"unknown command '%1'; 'fcpctl --help' lists them"_s.arg(
-                           printable(tail.first()))};
+        throw Failure {
+            Exit::Usage,
+            u"unknown command '%1'; 'fcpctl --help' lists them"_s.arg(printable(tail.first()))};
     }
     const QStringList before = arguments.first(arguments.size() - tail.size());
     return runCommand(*command, before + tail.sliced(1));

@@ -52,9 +52,8 @@ QVector<FileSystemItem> itemsToShow(RemoteTree &tree, const QString &path,
         }
         items = {item};
     }
-    std::sort(items.begin(), items.end(), [](const FileSystemItem &a, const FileSystemItem &b) {
-        return a.name < b.name;
-    });
+    std::sort(items.begin(), items.end(),
+              [](const FileSystemItem &a, const FileSystemItem &b) { return a.name < b.name; });
     return items;
 }
 
@@ -80,8 +79,8 @@ QString shownName(const FileSystemItem &item)
 
 QString entryCount(const FileSystemItem &directory)
 {
-    return u"%1 %2"_s.arg(directory.dircount).arg(directory.dircount == 1 ? u"entry"_s
-                                                                          : u"entries"_s);
+    return u"%1 %2"_s.arg(directory.dircount)
+        .arg(directory.dircount == 1 ? u"entry"_s : u"entries"_s);
 }
 
 QString toTable(const QVector<FileSystemItem> &items)
@@ -140,8 +139,10 @@ void makeDirectory(const Session &session, const QString &path)
     }
     const QString left = joinPath(parent, chosen);
     if (session.ask([&](FcpAppCORBA &fcp) { return fcp.deleteFileDirectory(left); }) != 0) {
-        throw failed(path, u"the instrument refused the name (it answered %1); %2 is left over"_s.arg(
-                               answer).arg(printable(left)));
+        throw failed(
+            path,
+            u"the instrument refused the name (it answered %1); %2 is left over"_s.arg(answer).arg(
+                printable(left)));
     }
     throw refused(path, answer);
 }
@@ -201,13 +202,12 @@ int carry(const Invocation &invocation, CarryCall call)
     for (const QString &operand : sources) {
         const QString source = withoutTrailingSlash(operand);
         findOrFail(tree, source);
-        const QString target
-            = tree.target(operands.last(), remoteName(source), sources.size() > 1);
+        const QString target = tree.target(operands.last(), remoteName(source), sources.size() > 1);
         if (tree.find(target)) {
             throw failed(target, u"it exists already, and is not overwritten"_s);
         }
-        const long answer = session.ask(
-            [&](FcpAppCORBA &fcp) { return call(fcp, source, target); });
+        const long answer =
+            session.ask([&](FcpAppCORBA &fcp) { return call(fcp, source, target); });
         if (answer != 0) {
             throw refused(source, answer);
         }
@@ -242,8 +242,8 @@ int rm(const Invocation &invocation)
         if (findOrFail(tree, path).isdir && !invocation.isSet(u"r"_s)) {
             throw failed(path, u"it is a directory; -r removes it with all that is in it"_s);
         }
-        const long answer = session.ask(
-            [&path](FcpAppCORBA &fcp) { return fcp.deleteFileDirectory(path); });
+        const long answer =
+            session.ask([&path](FcpAppCORBA &fcp) { return fcp.deleteFileDirectory(path); });
         if (answer != 0) {
             throw refused(path, answer);
         }

@@ -38,8 +38,12 @@ Failure failed(const QString &path, const QString &reason)
 /// Whether @p descriptor still is what @p path names.
 bool isStillThere(int descriptor, const QByteArray &path)
 {
-    struct stat opened {};
-    struct stat current {};
+    struct stat opened
+    {
+    };
+    struct stat current
+    {
+    };
     return ::fstat(descriptor, &opened) == 0 && ::lstat(path.constData(), &current) == 0
         && opened.st_dev == current.st_dev && opened.st_ino == current.st_ino;
 }
@@ -111,14 +115,16 @@ QString IncomingFile::partPath() const
 
 qint64 IncomingFile::partSize() const
 {
-    struct stat part {};
+    struct stat part
+    {
+    };
     return ::stat((m_partDirectory + PartName).constData(), &part) == 0 ? part.st_size : 0;
 }
 
 int IncomingFile::whyNotWritable(qint64 more) const
 {
-    const int descriptor
-        = ::open((m_partDirectory + PartName).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    const int descriptor =
+        ::open((m_partDirectory + PartName).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
     if (descriptor == -1) {
         return errno;
     }
@@ -163,7 +169,9 @@ void IncomingFile::syncDirectory(const QString &directory)
 /// Looks at what stands there now. A symbolic link is followed, so that it goes on being one.
 void IncomingFile::resolveTarget(bool overwrite)
 {
-    struct stat found {};
+    struct stat found
+    {
+    };
     if (::lstat(m_target.constData(), &found) != 0) {
         if (errno != ENOENT) {
             throw failed(m_shownTarget, qt_error_string(errno));
@@ -173,8 +181,8 @@ void IncomingFile::resolveTarget(bool overwrite)
     if (!overwrite) {
         throw failed(m_shownTarget, u"it exists already; --overwrite replaces it"_s);
     }
-    const std::unique_ptr<char, void (*)(void *)> resolved(::realpath(m_target.constData(), nullptr),
-                                                           &std::free);
+    const std::unique_ptr<char, void (*)(void *)> resolved(
+        ::realpath(m_target.constData(), nullptr), &std::free);
     if (!resolved || ::stat(resolved.get(), &found) != 0) {
         throw failed(m_shownTarget, qt_error_string(errno));
     }

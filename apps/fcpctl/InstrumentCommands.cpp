@@ -130,8 +130,8 @@ int resources(const Invocation &invocation)
     QVector<ResourceInformation> resources;
     session.ask([&](FcpAppCORBA &fcp) { fcp.getResources(resources); });
     const bool wantsStatus = invocation.isSet(u"status"_s);
-    const QVector<ResourceStatusInformation> statuses
-        = wantsStatus ? resourceStatuses(session) : QVector<ResourceStatusInformation>();
+    const QVector<ResourceStatusInformation> statuses =
+        wantsStatus ? resourceStatuses(session) : QVector<ResourceStatusInformation>();
 
     QList<Table::Column> columns {{u"PORT"_s, Table::Align::Right},
                                   {u"MODULE"_s, Table::Align::Right},
@@ -146,10 +146,8 @@ int resources(const Invocation &invocation)
     Table table(columns);
     for (const ResourceInformation &resource : resources) {
         QJsonObject object {
-            {u"port"_s, resource.portID},
-            {u"module"_s, resource.moduleID},
-            {u"id"_s, resource.resourceID},
-            {u"type"_s, resource.resourceType},
+            {u"port"_s, resource.portID},       {u"module"_s, resource.moduleID},
+            {u"id"_s, resource.resourceID},     {u"type"_s, resource.resourceType},
             {u"name"_s, resource.resourceName},
         };
         QStringList row {number(resource.portID), number(resource.moduleID),

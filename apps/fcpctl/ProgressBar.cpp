@@ -2,6 +2,7 @@
 
 #include "Text.h"
 
+#include <QList>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -34,7 +35,8 @@ QString fitted(const QString &text, int width)
     }
     QString cut;
     for (const uint character : text.toUcs4()) {
-        const QString next = cut + QString::fromUcs4(reinterpret_cast<const char32_t *>(&character), 1);
+        const QString next =
+            cut + QString::fromUcs4(reinterpret_cast<const char32_t *>(&character), 1);
         if (displayWidth(next) > width - 1) {
             break;
         }
@@ -68,10 +70,7 @@ QString figures(qint64 done, qint64 total, double bytesPerSecond, const QString 
         ? 100
         : static_cast<int>(100 * static_cast<double>(std::min(done, total))
                            / static_cast<double>(total));
-    return u"%1%  %2  %3  %4"_s.arg(percent, 3)
-        .arg(humanSize(done), 10)
-        .arg(rate, 12)
-        .arg(time, 5);
+    return u"%1%  %2  %3  %4"_s.arg(percent, 3).arg(humanSize(done), 10).arg(rate, 12).arg(time, 5);
 }
 
 QString bar(qint64 done, qint64 total, int width)

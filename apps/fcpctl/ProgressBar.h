@@ -4,8 +4,8 @@
 #include <QString>
 
 /**
- * One line on standard error that tells how far a transfer is, redrawn in place: name, bar, percent,
- * bytes, rate, remaining time. Without a terminal there it does nothing.
+ * One line on standard error that tells how far a transfer is, redrawn in place: name, bar,
+ * percent, bytes, rate, remaining time. Without a terminal there it does nothing.
  */
 class ProgressBar
 {

@@ -42,8 +42,8 @@ RemoteTree::RemoteTree(const Session &session)
 std::optional<QVector<FileSystemItem>> RemoteTree::list(const QString &directory,
                                                         const QVector<QString> &patterns) const
 {
-    constexpr auto Everything
-        = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    constexpr auto Everything =
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     QVector<FileSystemItem> items;
     const bool listed = m_session.ask([&](FcpAppCORBA &fcp) {
         return fcp.getFileSystemItems(directory, patterns, Everything, items);

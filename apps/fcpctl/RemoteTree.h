@@ -1,6 +1,6 @@
 #pragma once
 
-#include <FcpRecords.h>
+#include <corba/FcpRecords.h>
 
 #include <QHash>
 #include <QString>

@@ -2,7 +2,7 @@
 
 #include "Text.h"
 
-#include <BiDirectionalCORBA.h>
+#include <corba/BiDirectionalCORBA.h>
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <FcpAppCORBA.h>
+#include <corba/FcpAppCORBA.h>
 
 #include "Failure.h"
 

@@ -123,8 +123,8 @@ int tests(const Invocation &invocation)
     }
     const QList<RunningTest> running = runningTests(session);
     if (invocation.json()) {
-        Output::json(QJsonObject {{u"available"_s, toJson(available)},
-                                  {u"running"_s, toJson(running)}});
+        Output::json(
+            QJsonObject {{u"available"_s, toJson(available)}, {u"running"_s, toJson(running)}});
         return Done;
     }
     Output::write(toTable(available) + u'\n' + toTable(running));
@@ -139,9 +139,9 @@ TestStatus waitForStatus(const Session &session, qint32 id, bool (*isReached)(Te
     TestStatus status = testStatus(session, id);
     while (!isReached(status)) {
         if (interrupt.requested() || deadline.hasExpired()) {
-            throw Failure {Exit::Failed,
-                           u"stopped waiting for test %1, it is %2"_s.arg(
-                               number(id), statusName(status))};
+            throw Failure {
+                Exit::Failed,
+                u"stopped waiting for test %1, it is %2"_s.arg(number(id), statusName(status))};
         }
         QThread::msleep(50);
         status = testStatus(session, id);
@@ -153,9 +153,8 @@ int launch(const Invocation &invocation)
 {
     const QStringList words = invocation.operands();
     const Session session(invocation.address());
-    const auto id = static_cast<qint32>(session.ask([&words](FcpAppCORBA &fcp) {
-        return fcp.launchTest(words.first(), words.sliced(1));
-    }));
+    const auto id = static_cast<qint32>(session.ask(
+        [&words](FcpAppCORBA &fcp) { return fcp.launchTest(words.first(), words.sliced(1)); }));
     if (id <= 0) {
         throw Failure {Exit::Failed,
                        u"the instrument refused to launch '%1' (it answered %2)"_s.arg(
@@ -167,8 +166,8 @@ int launch(const Invocation &invocation)
         Output::line(number(id));
     }
     if (invocation.isSet(u"wait"_s)) {
-        const TestStatus status = waitForStatus(
-            session, id, [](TestStatus reached) { return reached != TEST_LAUNCHED; });
+        const TestStatus status =
+            waitForStatus(session, id, [](TestStatus reached) { return reached != TEST_LAUNCHED; });
         if (status != TEST_REGISTERED) {
             throw Failure {Exit::Failed, u"test %1 ended before it was up"_s.arg(id)};
         }

@@ -1,7 +1,7 @@
 #include "Text.h"
 
+#include <QList>
 #include <QStringDecoder>
-#include <QVarLengthArray>
 
 #include <array>
 #include <cwchar>
@@ -119,9 +119,9 @@ QString printable(const QString &text)
     QString shown;
     const auto plain = [&shown](QStringView part) {
         for (const uint character : part.toUcs4()) {
-            shown += needsEscape(character) ? escaped(character)
-                                            : QString::fromUcs4(
-                                                reinterpret_cast<const char32_t *>(&character), 1);
+            shown += needsEscape(character)
+                ? escaped(character)
+                : QString::fromUcs4(reinterpret_cast<const char32_t *>(&character), 1);
         }
     };
     split(text, plain, [&shown](char byte) { shown += escaped(static_cast<uchar>(byte)); });

@@ -4,7 +4,7 @@
 #include "Text.h"
 #include "TransferRun.h"
 
-#include <FcpRemoteFile.h>
+#include <corba/FcpRemoteFile.h>
 
 #include <QFileInfo>
 
@@ -38,7 +38,9 @@ QString ofBytes(qint64 part, qint64 whole)
 /// Where @p source goes on the local disk.
 QString localTarget(const QString &destination, const QString &source, bool mustBeDirectory)
 {
-    struct stat found {};
+    struct stat found
+    {
+    };
     const bool exists = ::stat(toShell(destination).constData(), &found) == 0;
     if (exists && S_ISDIR(found.st_mode)) {
         return joinPath(destination, remoteName(source));
@@ -67,12 +69,13 @@ Failure whyNotFetched(TransferRun &run, const Transfer &transfer, const Incoming
     const FileSystemResult opened = remote.open(transfer.source, false, false);
     run.session().requireLink();
     return failed(transfer.source,
-                  opened == FS_OK ? u"the instrument gave no more after "_s
-                                        + ofBytes(transfer.size, total)
-                                  : u"the instrument refused to open it"_s);
+                  opened == FS_OK
+                      ? u"the instrument gave no more after "_s + ofBytes(transfer.size, total)
+                      : u"the instrument refused to open it"_s);
 }
 
-void fetch(TransferRun &run, Transfer &transfer, const QString &target, const Invocation &invocation)
+void fetch(TransferRun &run, Transfer &transfer, const QString &target,
+           const Invocation &invocation)
 {
     const std::optional<FileSystemItem> item = run.tree().find(transfer.source);
     if (!item) {
@@ -98,8 +101,7 @@ void fetch(TransferRun &run, Transfer &transfer, const QString &target, const In
     }
     // A file that grew meanwhile is a good copy of what it was; a shorter one is none.
     if (transfer.size < item->size) {
-        throw failed(transfer.source,
-                     u"only "_s + ofBytes(transfer.size, item->size) + u" came"_s);
+        throw failed(transfer.source, u"only "_s + ofBytes(transfer.size, item->size) + u" came"_s);
     }
     if (invocation.isSet(u"verify"_s)) {
         try {
@@ -157,20 +159,23 @@ private:
             throw failed(m_path, u"its name is not UTF-8"_s);
         }
         // Not blocking: opening a named pipe would wait for its other end.
-        const int descriptor
-            = ::open(toShell(m_path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        const int descriptor =
+            ::open(toShell(m_path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
         if (descriptor == -1) {
             throw failed(m_path, qt_error_string(errno));
         }
-        struct stat found {};
+        struct stat found
+        {
+        };
         const int error = ::fstat(descriptor, &found) == 0 ? 0 : errno;
         ::close(descriptor);
         if (error != 0) {
             throw failed(m_path, qt_error_string(error));
         }
         if (!S_ISREG(found.st_mode)) {
-            throw failed(m_path, S_ISDIR(found.st_mode) ? u"it is a directory"_s
-                                                        : u"it is no regular file"_s);
+            throw failed(m_path,
+                         S_ISDIR(found.st_mode) ? u"it is a directory"_s
+                                                : u"it is no regular file"_s);
         }
         return found;
     }
@@ -188,21 +193,21 @@ QString leftOnInstrument(TransferRun &run, const QString &path, qint64 total)
         return u"nothing is left on the instrument"_s;
     }
     return u"%1 is incomplete on the instrument (%2)"_s.arg(printable(path),
-                                                          ofBytes(item->size, total));
+                                                            ofBytes(item->size, total));
 }
 
 Failure whyNotSent(TransferRun &run, const Transfer &transfer, qint64 total)
 {
     if (!run.session().isLinkUp()) {
         Failure lost = run.session().linkLost();
-        lost.message += u"; "_s + printable(transfer.destination)
-            + u" may be incomplete on the instrument"_s;
+        lost.message +=
+            u"; "_s + printable(transfer.destination) + u" may be incomplete on the instrument"_s;
         return lost;
     }
-    return failed(transfer.source,
-                  u"failed after %1, the instrument refused the rest; %2"_s.arg(
-                      ofBytes(transfer.size, total),
-                      leftOnInstrument(run, transfer.destination, total)));
+    return failed(
+        transfer.source,
+        u"failed after %1, the instrument refused the rest; %2"_s.arg(
+            ofBytes(transfer.size, total), leftOnInstrument(run, transfer.destination, total)));
 }
 
 void send(TransferRun &run, Transfer &transfer, const QString &target, const Invocation &invocation)
@@ -228,8 +233,9 @@ void send(TransferRun &run, Transfer &transfer, const QString &target, const Inv
         }
     }
     if (local.hasChanged() || transfer.size != local.size()) {
-        throw failed(transfer.source, u"it changed while it was carried; what is on the instrument "
-                                      u"may be a mixture"_s);
+        throw failed(transfer.source,
+                     u"it changed while it was carried; what is on the instrument "
+                     u"may be a mixture"_s);
     }
 }
 
@@ -238,12 +244,10 @@ int put(const Invocation &invocation)
     QStringList sources = invocation.operands();
     const QString destination = sources.takeLast();
     TransferRun run(invocation);
-    const QString directory
-        = run.tree().target(destination, QString(), sources.size() > 1);
+    const QString directory = run.tree().target(destination, QString(), sources.size() > 1);
     return run.run(sources, [&](Transfer &transfer) {
-        const QString target = directory.endsWith(u'/')
-            ? joinPath(directory, remoteName(transfer.source))
-            : directory;
+        const QString target =
+            directory.endsWith(u'/') ? joinPath(directory, remoteName(transfer.source)) : directory;
         send(run, transfer, target, invocation);
     });
 }

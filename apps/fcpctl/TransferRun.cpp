@@ -4,7 +4,7 @@
 #include "Output.h"
 #include "Text.h"
 
-#include <FcpRemoteFile.h>
+#include <corba/FcpRemoteFile.h>
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -127,8 +127,8 @@ void TransferRun::summarize(const QStringList &sources) const
     }
     if (sources.size() > 1 && !missing.isEmpty()) {
         Output::error(u"%1: %2 of %3 files were not carried:\n  %4"_s.arg(
-            m_invocation.name(), QString::number(missing.size()),
-            QString::number(sources.size()), missing.join(u"\n  "_s)));
+            m_invocation.name(), QString::number(missing.size()), QString::number(sources.size()),
+            missing.join(u"\n  "_s)));
     }
 }
 
@@ -140,9 +140,9 @@ int TransferRun::exitCode() const
     if (m_interrupt.requested()) {
         return m_interrupt.exitCode();
     }
-    const bool allCarried
-        = std::all_of(m_transfers.begin(), m_transfers.end(),
-                      [](const Transfer &transfer) { return transfer.failure.isEmpty(); });
+    const bool allCarried =
+        std::all_of(m_transfers.begin(), m_transfers.end(),
+                    [](const Transfer &transfer) { return transfer.failure.isEmpty(); });
     return static_cast<int>(allCarried ? Exit::Done : Exit::Failed);
 }
 

@@ -5,7 +5,7 @@
 #include "ProgressBar.h"
 #include "RemoteTree.h"
 
-#include <QvexFileMover.h>
+#include <files/QvexFileMover.h>
 
 #include <QSet>
 

@@ -5,8 +5,8 @@
 #include "Output.h"
 #include "Text.h"
 
-#include <AppFcpCORBAImpl.h>
-#include <VexLinkSupervisor.h>
+#include <corba/AppFcpCORBAImpl.h>
+#include <corba/VexLinkSupervisor.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -90,9 +90,9 @@ private:
 
 int watch(const Invocation &invocation)
 {
-    const std::chrono::milliseconds interval
-        = invocation.isSet(u"interval"_s) ? invocation.seconds(u"interval"_s)
-                                          : std::chrono::milliseconds(0);
+    const std::chrono::milliseconds interval = invocation.isSet(u"interval"_s)
+        ? invocation.seconds(u"interval"_s)
+        : std::chrono::milliseconds(0);
     const Interrupt interrupt;
     const Session session(invocation.address());
     FcpAppCORBA *controller = session.controller();
