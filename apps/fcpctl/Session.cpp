@@ -24,10 +24,10 @@ Session::Session(const Address &address)
     FcpAppCORBA::initializeInstance(BiDirectionalCORBA::instance());
     m_controller = FcpAppCORBA::instance();
     if (!m_controller->connectToFCP(address.host, address.port)) {
-        const QString reason = m_controller->lastError();
+        const QString reason = printable(m_controller->lastError());
         delete m_controller;
         BiDirectionalCORBA::deleteInstance();
-        throw Failure {Exit::NoLink, u"no link to %1: %2"_s.arg(address.toString(), reason)};
+        throw Failure {Exit::NoLink, reason};
     }
     m_linkSerial = m_controller->linkSerial();
 }
@@ -45,8 +45,7 @@ bool Session::isLinkUp() const
 
 Failure Session::linkLost() const
 {
-    return {Exit::NoLink,
-            u"the link to %1 was lost: %2"_s.arg(m_address.toString(), m_controller->lastError())};
+    return {Exit::NoLink, printable(m_controller->lastError())};
 }
 
 void Session::requireLink() const

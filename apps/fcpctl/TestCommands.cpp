@@ -115,19 +115,21 @@ int tests(const Invocation &invocation)
 {
     const Session session(invocation.address());
     const QVector<AvailableTestInformation> available = availableTests(session);
-    if (invocation.isSet(u"names"_s) && !invocation.json()) {
-        for (const AvailableTestInformation &test : available) {
-            Output::line(Output::name(test.testName));
-        }
-        return Done;
-    }
     const QList<RunningTest> running = runningTests(session);
     if (invocation.json()) {
         Output::json(
             QJsonObject {{u"available"_s, toJson(available)}, {u"running"_s, toJson(running)}});
-        return Done;
+    } else if (invocation.isSet(u"names"_s)) {
+        for (const AvailableTestInformation &test : available) {
+            Output::line(Output::name(test.testName));
+        }
+    } else if (invocation.isSet(u"ids"_s)) {
+        for (const RunningTest &test : running) {
+            Output::line(number(test.information.testID));
+        }
+    } else {
+        Output::write(toTable(available) + u'\n' + toTable(running));
     }
-    Output::write(toTable(available) + u'\n' + toTable(running));
     return Done;
 }
 
@@ -220,7 +222,8 @@ QList<Command> testCommands()
     return {
         {.name = u"tests"_s,
          .summary = u"List the tests that can be launched, and those that run."_s,
-         .options = {{u"names"_s, u"Only the names of those that can be launched, one a line."_s}},
+         .options = {{u"names"_s, u"Only the names of those that can be launched, one a line."_s},
+                     {u"ids"_s, u"Only the ids of those that run, one a line."_s}},
          .run = tests},
         {.name = u"launch"_s,
          .operands = u"NAME [ARG...]"_s,
