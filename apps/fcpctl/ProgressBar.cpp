@@ -3,6 +3,7 @@
 #include "Text.h"
 
 #include <QList>
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -16,6 +17,7 @@ namespace {
 
 constexpr int NarrowestBar = 10;
 constexpr int WidestBar = 40;
+constexpr int NarrowestLabel = 8;
 constexpr int WidestLabel = 32;
 
 int terminalWidth()
@@ -59,18 +61,11 @@ QString remainingTime(qint64 left, double bytesPerSecond)
     return bytesPerSecond > 0 && seconds < 360000 ? clockTime(seconds) : u"-:--"_s;
 }
 
-/// The part behind the bar: percent, bytes, rate and time.
-QString figures(qint64 done, qint64 total, double bytesPerSecond, const QString &time)
+int percentage(qint64 done, qint64 total)
 {
-    const QString rate = humanSize(std::llround(bytesPerSecond)) + u"/s"_s;
-    if (total < 0) {
-        return u"%1  %2"_s.arg(humanSize(done), 10).arg(rate, 12);
-    }
-    const auto percent = total == 0
-        ? 100
-        : static_cast<int>(100 * static_cast<double>(std::min(done, total))
-                           / static_cast<double>(total));
-    return u"%1%  %2  %3  %4"_s.arg(percent, 3).arg(humanSize(done), 10).arg(rate, 12).arg(time, 5);
+    return total == 0 ? 100
+                      : static_cast<int>(100 * static_cast<double>(std::min(done, total))
+                                         / static_cast<double>(total));
 }
 
 QString bar(qint64 done, qint64 total, int width)
@@ -88,14 +83,16 @@ void ProgressBar::Rate::update(qint64 done, qint64 nanoseconds)
 {
     constexpr double MemorySeconds = 3;
     const double seconds = static_cast<double>(nanoseconds - m_lastTime) / 1e9;
-    if (seconds <= 0) {
-        return;
-    }
-    const double current = static_cast<double>(done - m_lastDone) / seconds;
-    const double weight = m_lastTime == 0 ? 1 : 1 - std::exp(-seconds / MemorySeconds);
-    m_rate += weight * (current - m_rate);
+    const double keep = std::exp(-seconds / MemorySeconds);
+    m_bytes = m_bytes * keep + static_cast<double>(done - m_lastDone);
+    m_seconds = m_seconds * keep + seconds;
     m_lastDone = done;
     m_lastTime = nanoseconds;
+}
+
+double ProgressBar::Rate::bytesPerSecond() const
+{
+    return m_seconds > 0 ? m_bytes / m_seconds : 0;
 }
 
 ProgressBar::ProgressBar(bool wanted)
@@ -133,7 +130,8 @@ void ProgressBar::finish(qint64 done)
 {
     if (m_enabled) {
         const double seconds = std::max(1e-9, static_cast<double>(m_clock.nsecsElapsed()) / 1e9);
-        draw(done, static_cast<double>(done) / seconds, clockTime(seconds));
+        draw(done, static_cast<double>(done) / seconds,
+             seconds < 9.95 ? u"%1 s"_s.arg(seconds, 0, 'f', 1) : clockTime(seconds));
         std::fputc('\n', stderr);
         m_drawn = false;
     }
@@ -149,18 +147,27 @@ void ProgressBar::clear()
 
 QString ProgressBar::line(int width, qint64 done, double bytesPerSecond, const QString &time) const
 {
-    const QString tail = figures(done, m_total, bytesPerSecond, time);
-    const int labelRoom = width - displayWidth(tail) - 2;
-    if (labelRoom < 1) {
-        return fitted(tail.trimmed(), width);
+    const QString percent = m_total < 0 ? QString() : u"%1%"_s.arg(percentage(done, m_total), 3);
+    const QString bytes = humanSize(done).rightJustified(10);
+    const QString rate = (humanSize(std::llround(bytesPerSecond)) + u"/s"_s).rightJustified(12);
+    const QString left = m_total < 0 ? QString() : time.rightJustified(5);
+
+    // The figures, with fewer of them the narrower the terminal is.
+    const int leastLabel = std::min(NarrowestLabel, displayWidth(m_label));
+    for (QStringList figures : {QStringList {percent, bytes, rate, left},
+                                QStringList {percent, rate, left}, QStringList {percent, left}}) {
+        figures.removeAll(QString());
+        const QString tail = figures.join(u"  "_s);
+        const int room = width - displayWidth(tail) - 2;
+        if (room >= leastLabel) {
+            const QString head = fitted(m_label, std::min(room, WidestLabel));
+            const int barRoom = std::min(room - displayWidth(head) - 2, WidestBar);
+            const bool hasBar = m_total >= 0 && barRoom >= NarrowestBar;
+            return head + (hasBar ? u"  "_s + bar(done, m_total, barRoom) : QString()) + u"  "_s
+                + tail;
+        }
     }
-    const int labelWidth = std::min(labelRoom, std::min(WidestLabel, displayWidth(m_label)));
-    const QString head = fitted(m_label, labelWidth);
-    const int barRoom = std::min(labelRoom - displayWidth(head) - 2, WidestBar);
-    if (m_total < 0 || barRoom < NarrowestBar) {
-        return head + u"  "_s + tail;
-    }
-    return head + u"  "_s + bar(done, m_total, barRoom) + u"  "_s + tail;
+    return fitted(m_total < 0 ? humanSize(done) : percent, width);
 }
 
 void ProgressBar::draw(qint64 done, double bytesPerSecond, const QString &time)

@@ -30,12 +30,13 @@ private:
     {
     public:
         void update(qint64 done, qint64 nanoseconds);
-        double bytesPerSecond() const { return m_rate; }
+        double bytesPerSecond() const;
 
     private:
         qint64 m_lastDone = 0;
         qint64 m_lastTime = 0;
-        double m_rate = 0;
+        double m_bytes = 0; // and the time they took, both fading
+        double m_seconds = 0;
     };
 
     QString line(int width, qint64 done, double bytesPerSecond, const QString &time) const;

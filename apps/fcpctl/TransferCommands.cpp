@@ -88,7 +88,7 @@ void fetch(TransferRun &run, Transfer &transfer, const QString &target,
     run.claim(target);
     IncomingFile file(target, invocation.isSet(u"overwrite"_s));
     const auto interrupted = [&target] {
-        return Interrupted {printable(target) + u" is as it was before"_s};
+        return Interrupted {printable(target) + u" was not touched"_s};
     };
 
     switch (run.move(TransferRun::Direction::Download, file.partPath(), transfer, item->size)) {

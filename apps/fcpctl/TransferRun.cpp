@@ -94,7 +94,8 @@ void TransferRun::carryOne(const QString &source, const Carry &carry)
         transfer.failure = u"interrupted; "_s + interrupted.left;
     } catch (const Failure &failure) {
         m_linkLost = failure.exit == Exit::NoLink;
-        transfer.failure = failure.message;
+        transfer.failure
+            = m_linkLost ? printable(source) + u": "_s + failure.message : failure.message;
     }
     m_transfers += transfer;
     report(transfer);
@@ -177,7 +178,7 @@ QByteArray TransferRun::verify(const QString &localPath, const QString &remotePa
 {
     m_bar.start(u"verifying "_s + remoteName(remotePath), size);
     const QByteArray remote = remoteChecksum(remotePath);
-    m_bar.finish(size);
+    m_bar.clear();
     const QByteArray local = localChecksum(localPath);
     if (local != remote) {
         throw failed(remotePath,
