@@ -62,8 +62,10 @@ IIOP::ProfileBody profileOf(CORBA::Object_ptr object)
 class ControllerServer::Forwarder : public virtual PortableServer::ServantBase
 {
 public:
-    explicit Forwarder(CORBA::Object_ptr object)
+    /// @p publish: "HOST:PORT" for all clients; empty: each is sent to the address it has used.
+    Forwarder(CORBA::Object_ptr object, const std::string &publish)
         : m_profile(profileOf(object))
+        , m_publish(publish.empty() ? publish : "giop:tcp:" + publish)
     {
     }
 
@@ -71,7 +73,7 @@ public:
 
     CORBA::Boolean _dispatch(omniCallHandle &call) override
     {
-        const char *address = call.myaddress();
+        const char *address = m_publish.empty() ? call.myaddress() : m_publish.c_str();
         throw omniORB::LOCATION_FORWARD(objectAt(address ? address : ""), false);
     }
     const char *_mostDerivedRepoId() override { return RepositoryId; }
@@ -101,6 +103,7 @@ private:
     }
 
     const IIOP::ProfileBody m_profile;
+    const std::string m_publish;
     std::mutex m_mutex;
     std::map<std::string, CORBA::Object_var> m_objects;
 };
@@ -143,7 +146,7 @@ bool ControllerServer::initialize(int &argc, char **argv, const std::string &hos
     }
 }
 
-bool ControllerServer::serve(PortableServer::Servant servant)
+bool ControllerServer::serve(PortableServer::Servant servant, const std::string &publish)
 {
     try {
         CORBA::Object_var object = m_orb->resolve_initial_references("RootPOA");
@@ -162,7 +165,7 @@ bool ControllerServer::serve(PortableServer::Servant servant)
         const PortableServer::ObjectId_var id = PortableServer::string_to_ObjectId("FcpApp");
         poa->activate_object_with_id(id, servant);
         const CORBA::Object_var reference = poa->id_to_reference(id);
-        m_forwarder = std::make_unique<Forwarder>(reference);
+        m_forwarder = std::make_unique<Forwarder>(reference, publish);
         m_port = m_forwarder->port();
 
         object = m_orb->resolve_initial_references("omniINSPOA");

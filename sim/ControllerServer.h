@@ -23,7 +23,7 @@ public:
     /** Makes the ORB; words of @p argv that are the ORB's own are taken out of it. */
     bool initialize(int &argc, char **argv, const std::string &host, unsigned short port);
     /** Serves @p servant, which must outlive this object. */
-    bool serve(PortableServer::Servant servant);
+    bool serve(PortableServer::Servant servant, const std::string &publish);
     /** Why one of the above failed, in one line. */
     const std::string &error() const { return m_error; }
 

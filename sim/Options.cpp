@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -63,6 +64,11 @@ Options readOptions(const QStringList &arguments)
         u"host"_s, u"Listen on this address (default 127.0.0.1; 0.0.0.0: on all)."_s, u"address"_s);
     const QCommandLineOption port(u"port"_s, u"Listen on this port (default 5650; 0: any)."_s,
                                   u"number"_s);
+    const QCommandLineOption publish(
+        u"publish"_s,
+        u"Send clients to this address, at which they reach this program through a relay or an "
+        "address translation (default: the address that they have used)."_s,
+        u"host:port"_s);
     const QCommandLineOption root(
         u"root"_s,
         u"Keep the storage roots Internal and Remote in this directory, which is made when it is "
@@ -79,7 +85,7 @@ Options readOptions(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(QString::fromUtf8(Description));
-    parser.addOptions({help, version, host, port, root, instrument, sync, log});
+    parser.addOptions({help, version, host, port, publish, root, instrument, sync, log});
 
     Options options;
     const QStringList words = takeOrbWords(arguments, options.orbWords);
@@ -109,6 +115,12 @@ Options readOptions(const QStringList &arguments)
         return options;
     }
     options.port = static_cast<unsigned short>(number);
+    options.publish = parser.value(publish);
+    static const QRegularExpression address(u"^[^:]+:[0-9]{1,5}$"_s);
+    if (parser.isSet(publish) && !address.match(options.publish).hasMatch()) {
+        options.error = u"--publish %1: HOST:PORT is expected"_s.arg(options.publish);
+        return options;
+    }
     if (parser.isSet(instrument)) {
         options.instrument = parser.value(instrument);
     }

@@ -13,6 +13,8 @@ struct Options
     QString root; ///< empty: a directory of its own, for this run only
     QString host = QStringLiteral("127.0.0.1");
     unsigned short port = 5650;
+    /// "HOST:PORT", the address that clients are sent to; empty: the one they have used.
+    QString publish;
     QString log;
     bool sync = false;
     std::vector<std::string> orbWords; ///< "-ORB..." and their values

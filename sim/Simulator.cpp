@@ -55,7 +55,7 @@ Simulator::ExitCode Simulator::start()
     }
     m_connections.install();
     m_connections.watch([this](std::uint64_t connection) { m_servant.connectionGone(connection); });
-    if (!m_server.serve(&m_servant)) {
+    if (!m_server.serve(&m_servant, m_options.publish.toStdString())) {
         return fail(CannotRun, QString::fromStdString(m_server.error()));
     }
     return Done;

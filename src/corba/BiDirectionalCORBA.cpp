@@ -264,10 +264,11 @@ bool BiDirectionalCORBA::tryORB(const QVector<QString> &words)
         d->port = portOf(omni::omniObjAdapter::listMyEndpoints());
         return true;
     } catch (const CORBA::Exception &exception) {
+        // With -ORBtraceLevel 0 it has nothing to say: then any of the words may be meant.
         const QString complaint = takeOrbComplaint();
-        s_lastError = u"the ORB did not start (%1)%2"_s.arg(
+        s_lastError = u"the ORB did not start (%1): %2"_s.arg(
             QString::fromLatin1(exception._name()),
-            complaint.isEmpty() ? QString() : u": "_s + complaint);
+            complaint.isEmpty() ? u"it was given "_s + words.join(u' ') : complaint);
     }
     destroyORB();
     return false;
