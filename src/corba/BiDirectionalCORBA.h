@@ -10,6 +10,8 @@
 
 #include "VexExport.h"
 
+class UpcallQueue;
+
 /**
  * Owns the process's one ORB, and the POA in which the library's callback object lives.
  *
@@ -81,7 +83,10 @@ public:
      */
     bool initializeORB(const QVector<QString> &args);
 
-    /** Runs the ORB's event loop until shutdownORB(); the thread's body calls it. */
+    /**
+     * Runs the ORB's event loop, in which the controller's calls are delivered, until
+     * shutdownORB(). The thread's body calls it.
+     */
     void runORB();
     /** Stops the ORB's event loop and ends the thread. The ORB can not be used afterwards. */
     void shutdownORB();
@@ -105,9 +110,12 @@ public:
     void setTargetIp(const QString &address);
 
 private:
+    friend class FcpAppCORBA;
+
     explicit BiDirectionalCORBA(const QString &listenEndpoint);
     ~BiDirectionalCORBA() override;
 
+    std::shared_ptr<UpcallQueue> upcalls() const;
     void run() override;
     bool startORB(const QVector<QString> &args);
     bool tryORB(const QVector<QString> &words);

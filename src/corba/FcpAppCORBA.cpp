@@ -20,15 +20,15 @@ FcpAppCORBA *FcpAppCORBA::instance()
 }
 
 FcpAppCORBA::FcpAppCORBA(BiDirectionalCORBA *corba)
-    : d(std::make_unique<Private>(this, corba))
+    : d(std::make_unique<Private>(this, corba, corba->upcalls()))
 {
     registerFcpRecordTypes();
     connect(d->callback, &AppFcpCORBAImpl::fcpEventReceived, this, &FcpAppCORBA::fcpEvent,
             Qt::QueuedConnection);
     // On the ORB thread: the queue of the GUI thread is no sign of life.
     connect(
-        d->callback, &AppFcpCORBAImpl::fcpEventReceived, this, [this] { d->heard(); },
-        Qt::DirectConnection);
+        d->callback, &AppFcpCORBAImpl::fcpEventReceived, this,
+        [clock = d->signOfLife] { clock->note(); }, Qt::DirectConnection);
 }
 
 FcpAppCORBA::~FcpAppCORBA()

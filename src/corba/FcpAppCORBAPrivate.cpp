@@ -33,12 +33,6 @@ private:
     QByteArray m_text;
 };
 
-qint64 steadyMilliseconds()
-{
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
-}
-
 QString describe(const CORBA::SystemException &exception)
 {
     const char *minor = exception.NP_minorString();
@@ -80,10 +74,11 @@ QString FcpAppCORBA::Private::describeCurrentException()
     }
 }
 
-FcpAppCORBA::Private::Private(FcpAppCORBA *proxy, BiDirectionalCORBA *orb)
+FcpAppCORBA::Private::Private(FcpAppCORBA *proxy, BiDirectionalCORBA *orb,
+                              std::shared_ptr<UpcallQueue> upcalls)
     : q(proxy)
     , corba(orb)
-    , callback(new AppFcpCORBAImpl)
+    , callback(new AppFcpCORBAImpl(std::move(upcalls)))
 {
     activateCallback();
 }
@@ -98,11 +93,6 @@ std::shared_ptr<FcpLink> FcpAppCORBA::Private::currentLink() const
 {
     const QMutexLocker locker(&mutex);
     return m_link;
-}
-
-void FcpAppCORBA::Private::heard()
-{
-    lastHeard.store(steadyMilliseconds(), std::memory_order_relaxed);
 }
 
 void FcpAppCORBA::Private::setError(const QString &reason)
@@ -182,7 +172,7 @@ void FcpAppCORBA::Private::replaceLink(const std::shared_ptr<FcpLink> &fresh)
         lost = std::exchange(m_lostLink, nullptr);
         m_lastError.clear();
     }
-    heard();
+    signOfLife->note();
     qCDebug(lcCorba) << "registered as client" << fresh->clientId() << "on"
                      << fresh->connection().constData();
     if (replaced) {
@@ -255,6 +245,5 @@ void FcpAppCORBA::Private::deactivateCallback()
 
 qint64 FcpAppCORBA::millisecondsSinceHeard() const
 {
-    const qint64 heard = d->lastHeard.load(std::memory_order_relaxed);
-    return heard == 0 ? -1 : steadyMilliseconds() - heard;
+    return d->signOfLife->age();
 }

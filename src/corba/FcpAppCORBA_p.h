@@ -3,7 +3,8 @@
 #include <QMutex>
 
 #include <atomic>
-#include <functional>
+#include <chrono>
+#include <memory>
 
 #include "ConnectionGate.h"
 #include "CorbaLogging.h"
@@ -12,15 +13,36 @@
 #include "WireConversion.h"
 
 class AppFcpCORBAImpl;
+class UpcallQueue;
+
+/** When the controller was last heard of. */
+class SignOfLife
+{
+public:
+    void note() { m_last.store(now(), std::memory_order_relaxed); }
+    /** Milliseconds; -1 when nothing was noted yet. */
+    qint64 age() const
+    {
+        const qint64 last = m_last.load(std::memory_order_relaxed);
+        return last == 0 ? -1 : now() - last;
+    }
+
+private:
+    static qint64 now()
+    {
+        const auto time = std::chrono::steady_clock::now().time_since_epoch();
+        return std::chrono::duration_cast<std::chrono::milliseconds>(time).count();
+    }
+
+    std::atomic<qint64> m_last = 0;
+};
 
 struct FcpAppCORBA::Private
 {
-    Private(FcpAppCORBA *proxy, BiDirectionalCORBA *orb);
+    Private(FcpAppCORBA *proxy, BiDirectionalCORBA *orb, std::shared_ptr<UpcallQueue> upcalls);
     ~Private();
 
     std::shared_ptr<FcpLink> currentLink() const;
-    void heard();
-
     /**
      * Connects, registers and makes that the current link; on failure the reason is in m_lastError
      * and the link is as it was. With @p onlyIfLost it does nothing when there is a link.
@@ -61,7 +83,7 @@ struct FcpAppCORBA::Private
         try {
             const ConnectionGate::BoundCall bound(link->connection());
             Result result = call(*link);
-            heard();
+            signOfLife->note();
             return result;
         } catch (...) {
             linkFailed(link, describeCurrentException());
@@ -108,5 +130,7 @@ struct FcpAppCORBA::Private
     QString m_lastError;
 
     std::atomic<quint64> linkCount = 0;
-    std::atomic<qint64> lastHeard = 0; ///< milliseconds of the steady clock; 0: never
+    /// Shared with the connection to the callback object, whose signal the ORB thread may be
+    /// emitting while the proxy goes.
+    const std::shared_ptr<SignOfLife> signOfLife = std::make_shared<SignOfLife>();
 };

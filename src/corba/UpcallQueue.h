@@ -1,0 +1,41 @@
+#pragma once
+
+#include <condition_variable>
+#include <mutex>
+#include <vector>
+
+class AppFcpCORBAImpl;
+
+/**
+ * Hands the controller's calls from the ORB's reader of the connection to the ORB thread.
+ *
+ * The reader must come back at once: it also reads the replies to this client's own calls, so one
+ * made from a slot on the reader's thread would wait for itself.
+ */
+class UpcallQueue
+{
+public:
+    enum class Kind { Event, ShutDown };
+
+    /** Has @p target emit its signal for the call; keeps a reference to it until then. */
+    void post(AppFcpCORBAImpl *target, Kind kind, int value);
+    /** Delivers on the calling thread, in the order of the posts, until stop(). */
+    void run();
+    /** Ends run(), now or as soon as it is called; what was not delivered is dropped. */
+    void stop();
+    /** Makes the queue usable again after stop(). */
+    void reset();
+
+private:
+    struct Upcall
+    {
+        AppFcpCORBAImpl *target;
+        Kind kind;
+        int value;
+    };
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::vector<Upcall> m_upcalls;
+    bool m_stopped = false;
+};
