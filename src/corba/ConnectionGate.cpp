@@ -64,6 +64,9 @@ CORBA::Boolean openConnection(omni::omniInterceptors::clientOpenConnection_T::in
         info.why = "the client is not registered on a new connection";
         return true;
     }
+    if (t_registration) {
+        t_registration->countConnection();
+    }
     keepAlive(socketOf(info.giop_c.strand()));
     return true;
 }

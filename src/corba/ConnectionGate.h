@@ -31,7 +31,7 @@ public:
     BoundCall &operator=(const BoundCall &) = delete;
 };
 
-/** While it lives, it notes over which connection this thread sends registerApp. Does not nest. */
+/** While it lives, it notes what becomes of this thread's calls that register. Does not nest. */
 class Registration
 {
 public:
@@ -40,6 +40,10 @@ public:
 
     Registration(const Registration &) = delete;
     Registration &operator=(const Registration &) = delete;
+
+    /** How many connections were opened for these calls. */
+    int openedConnections() const { return m_openedConnections; }
+    void countConnection() { ++m_openedConnections; }
 
     /** The connection's local address, which names it; empty before registerApp was sent. */
     const QByteArray &connection() const { return m_connection; }
@@ -52,6 +56,7 @@ public:
     }
 
 private:
+    int m_openedConnections = 0;
     QByteArray m_connection;
     SharedSocket m_socket;
 };

@@ -95,12 +95,13 @@ AppFcpCORBAImpl *FcpAppCORBA::getCallback() const
 
 void FcpAppCORBA::communicationError()
 {
+    std::shared_ptr<FcpLink> ended;
     {
         const QMutexLocker locker(&d->mutex);
-        if (d->m_link) {
-            d->m_lostLink = std::exchange(d->m_link, nullptr);
-            d->m_lostLink->dropSocket();
-        }
+        ended = std::exchange(d->m_link, nullptr);
+    }
+    if (ended) {
+        ended->hangUp();
     }
     Q_EMIT disconnectCatched(-1);
 }

@@ -7,6 +7,10 @@
 
 #include <chrono>
 
+#include <arpa/inet.h>
+#include <netdb.h>
+#include <netinet/in.h>
+
 #include "AppFcpCORBAImpl.h"
 #include "BiDirectionalCORBA.h"
 #include "ThreadCallTimeOut.h"
@@ -18,6 +22,9 @@ namespace {
 
 /// How long a courtesy call to a controller that is being left may take.
 constexpr std::chrono::milliseconds CourtesyTimeOut = 3s;
+
+/// How often the ORB may come up with a connection that is broken before that is the failure.
+constexpr int AttemptsOnOldConnections = 10;
 
 /// A failure to connect that is not the ORB's, with its words.
 class ConnectFailure : public std::exception
@@ -55,6 +62,33 @@ QString describe(const CORBA::SystemException &exception)
         return u"there is no controller at that address (%1)"_s.arg(detail);
     }
     return u"the call failed (%1)"_s.arg(detail);
+}
+
+/// The IPv4 address of a host, or the name itself when it has none.
+QByteArray ipv4Of(const QString &host)
+{
+    addrinfo hints = {};
+    hints.ai_family = AF_INET;
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo *found = nullptr;
+    if (::getaddrinfo(host.toUtf8().constData(), nullptr, &hints, &found) != 0) {
+        return host.toUtf8();
+    }
+    char text[INET_ADDRSTRLEN] = {};
+    const auto *address = reinterpret_cast<const sockaddr_in *>(found->ai_addr);
+    ::inet_ntop(AF_INET, &address->sin_addr, text, sizeof text);
+    ::freeaddrinfo(found);
+    return text;
+}
+
+/**
+ * The published address as the ORB must be given it. Without a version it means IIOP 1.0, which has
+ * no bi-directional connections. And a name and its address are two peers to the ORB, with a
+ * connection each, while the reference that the controller forwards to carries an address.
+ */
+QByteArray addressForTheOrb(const QString &host, int port)
+{
+    return "corbaloc:iiop:1.2@" + ipv4Of(host) + ':' + QByteArray::number(port) + "/bidir/FcpApp";
 }
 
 } // namespace
@@ -102,6 +136,23 @@ void FcpAppCORBA::Private::setError(const QString &reason)
     m_lastError = reason;
 }
 
+FcpAppCORBA::Private::Controller FcpAppCORBA::Private::findController(const QByteArray &address)
+{
+    Controller found;
+    const CORBA::Object_var object = corba->getORB()->string_to_object(address.constData());
+    found.object = FcpAppInterfaceCORBA::_narrow(object);
+    if (CORBA::is_nil(found.object)) {
+        throw ConnectFailure(u"what answers there is no controller"_s);
+    }
+    // A controller forwards the published address to its real object. A call that does no harm
+    // takes this view of it there too, before it is bound to the connection.
+    found.contents = FcpContentsCORBA::_unchecked_narrow(found.object);
+    if (found.contents->_non_existent()) {
+        throw ConnectFailure(u"the controller's object does not exist"_s);
+    }
+    return found;
+}
+
 std::shared_ptr<FcpLink> FcpAppCORBA::Private::makeLink(const QString &host, int port)
 {
     const QByteArray address = u"corbaloc:iiop:%1:%2/bidir/FcpApp"_s.arg(host).arg(port).toUtf8();
@@ -109,21 +160,19 @@ std::shared_ptr<FcpLink> FcpAppCORBA::Private::makeLink(const QString &host, int
     if (host.isEmpty() || port < 1 || port > 65535) {
         throw ConnectFailure(u"%1 is no address of a controller"_s.arg(QString::fromUtf8(address)));
     }
-    // Without a version the address means IIOP 1.0, which has no bi-directional connections.
-    const QByteArray versioned =
-        QByteArray(address).replace("corbaloc:iiop:", "corbaloc:iiop:1.2@");
 
     ConnectionGate::Registration registration;
-    const CORBA::Object_var object = corba->getORB()->string_to_object(versioned.constData());
-    const FcpAppInterfaceCORBA_var controller = FcpAppInterfaceCORBA::_narrow(object);
-    if (CORBA::is_nil(controller)) {
-        throw ConnectFailure(u"what answers there is no controller"_s);
-    }
-    // A controller forwards the published address to its real object. A call that does no harm
-    // takes this view of it there too, before it is bound to the connection.
-    const FcpContentsCORBA_var contents = FcpContentsCORBA::_unchecked_narrow(controller);
-    if (contents->_non_existent()) {
-        throw ConnectFailure(u"the controller's object does not exist"_s);
+    Controller controller;
+    for (int attempt = 1; CORBA::is_nil(controller.object); ++attempt) {
+        try {
+            controller = findController(addressForTheOrb(host, port));
+        } catch (const CORBA::SystemException &) {
+            // The connection of a link that is gone may be with the ORB still. These calls change
+            // nothing: they are made again until one was made on a connection of their own.
+            if (registration.openedConnections() > 0 || attempt == AttemptsOnOldConnections) {
+                throw;
+            }
+        }
     }
 
     if (callbackIdWasRegistered) {
@@ -136,9 +185,9 @@ std::shared_ptr<FcpLink> FcpAppCORBA::Private::makeLink(const QString &host, int
     const CORBA::Object_var reference = poa->servant_to_reference(callback);
     const AppFcpInterfaceCORBA_var self = AppFcpInterfaceCORBA::_narrow(reference);
     callbackIdWasRegistered = true;
-    const CORBA::Long id = controller->registerApp(self);
-    return std::make_shared<FcpLink>(controller, contents, id, registration.connection(),
-                                     registration.socket(), ++linkCount);
+    const CORBA::Long id = controller.object->registerApp(self);
+    return std::make_shared<FcpLink>(controller.object, controller.contents, id,
+                                     registration.connection(), registration.socket(), ++linkCount);
 }
 
 bool FcpAppCORBA::Private::connectTo(const QString &host, int port, bool onlyIfLost)
@@ -165,24 +214,22 @@ bool FcpAppCORBA::Private::connectTo(const QString &host, int port, bool onlyIfL
 void FcpAppCORBA::Private::replaceLink(const std::shared_ptr<FcpLink> &fresh)
 {
     std::shared_ptr<FcpLink> replaced;
-    std::shared_ptr<FcpLink> lost;
     {
         const QMutexLocker locker(&mutex);
         replaced = std::exchange(m_link, fresh);
-        lost = std::exchange(m_lostLink, nullptr);
         m_lastError.clear();
     }
     signOfLife->note();
     qCDebug(lcCorba) << "registered as client" << fresh->clientId() << "on"
                      << fresh->connection().constData();
-    if (replaced) {
-        replaced->dropSocket();
-        letGo(replaced);
+    if (!replaced) {
+        return;
     }
-    // A call that failed while its connection lived left a registration behind. On another
-    // connection the id may belong to another client by now.
-    if (lost && lost->connection() == fresh->connection()) {
-        letGo(lost);
+    letGo(replaced);
+    if (replaced->connection() == fresh->connection()) {
+        replaced->leave();
+    } else {
+        replaced->hangUp();
     }
 }
 
@@ -207,11 +254,11 @@ void FcpAppCORBA::Private::linkFailed(const std::shared_ptr<FcpLink> &failed, co
         if (m_link != failed) {
             return; // somebody else reported it, or it was replaced meanwhile
         }
-        m_lostLink = std::exchange(m_link, nullptr);
-        m_lostLink->dropSocket();
+        m_link.reset();
         m_lastError = u"the link to %1 is lost: %2"_s.arg(m_host, reason);
         qCDebug(lcCorba).noquote() << m_lastError;
     }
+    failed->hangUp();
     Q_EMIT q->disconnectCatched(-1);
 }
 

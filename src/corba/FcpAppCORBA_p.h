@@ -48,6 +48,13 @@ struct FcpAppCORBA::Private
      * and the link is as it was. With @p onlyIfLost it does nothing when there is a link.
      */
     bool connectTo(const QString &host, int port, bool onlyIfLost);
+    struct Controller
+    {
+        FcpAppInterfaceCORBA_var object;
+        FcpContentsCORBA_var contents;
+    };
+    /// Finds the controller's object, or throws.
+    Controller findController(const QByteArray &address);
     /// Makes a registered link, or throws.
     std::shared_ptr<FcpLink> makeLink(const QString &host, int port);
     /// Puts @p fresh in the place of the link that was there, which is let go.
@@ -124,7 +131,6 @@ struct FcpAppCORBA::Private
     /// Guards what follows; never held across a call.
     mutable QMutex mutex;
     std::shared_ptr<FcpLink> m_link;
-    std::shared_ptr<FcpLink> m_lostLink;
     QString m_host;
     int m_port = 0;
     QString m_lastError;

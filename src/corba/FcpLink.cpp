@@ -23,7 +23,16 @@ SharedSocket FcpLink::socket() const
     return m_socket;
 }
 
-void FcpLink::dropSocket()
+void FcpLink::hangUp()
+{
+    const std::lock_guard lock(m_socketMutex);
+    if (m_socket) {
+        m_socket->shutDown();
+        m_socket.reset();
+    }
+}
+
+void FcpLink::leave()
 {
     const std::lock_guard lock(m_socketMutex);
     m_socket.reset();

@@ -30,10 +30,15 @@ public:
     const QByteArray &connection() const { return m_connection; }
     quint64 serial() const { return m_serial; }
 
-    /** The socket of the connection, to watch it; null once the link was dropped. */
+    /** The socket of the connection, to watch it; null once the link has ended. */
     SharedSocket socket() const;
-    /** To be called when the link is lost or replaced: lets the connection close. */
-    void dropSocket();
+    /**
+     * Ends the connection: calls on it fail, the controller sees at once that this client is gone,
+     * and the ORB can not take it for another link.
+     */
+    void hangUp();
+    /** Leaves the connection to the link that has replaced this one. */
+    void leave();
 
     /** Whether the caller is the one to unregister: true once. */
     bool takeRegistration() { return m_registered.exchange(false); }

@@ -2,11 +2,13 @@
 
 #include <memory>
 
+#include <sys/socket.h>
 #include <unistd.h>
 
 /**
  * A second descriptor of a connection's socket, to see from outside the ORB that the peer has hung
- * up. The connection is not closed before the last descriptor is: let go of it when the link goes.
+ * up, and to hang up. The connection is not closed before the last descriptor is: let go of it when
+ * the link goes.
  */
 class SocketHandle
 {
@@ -22,6 +24,9 @@ public:
     SocketHandle &operator=(const SocketHandle &) = delete;
 
     int descriptor() const { return m_descriptor; }
+
+    /// Ends the connection for both sides, whoever else has it open.
+    void shutDown() const { ::shutdown(m_descriptor, SHUT_RDWR); }
 
 private:
     const int m_descriptor;
