@@ -14,11 +14,8 @@ constexpr int PatienceMs = 20'000;
 
 } // namespace
 
-ControllerProcess::ControllerProcess(const QString &program, const QStringList &arguments,
-                                     quint16 publishedPort)
+ControllerProcess::ControllerProcess(const QString &program)
     : m_program(program)
-    , m_arguments(arguments)
-    , m_publishedPort(publishedPort)
 {
     // Whatever becomes of the test, its controller goes with it.
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
@@ -33,12 +30,7 @@ ControllerProcess::~ControllerProcess()
 
 void ControllerProcess::start()
 {
-    QStringList arguments = m_arguments;
-    arguments << u"--port"_s << QString::number(m_port);
-    if (m_publishedPort != 0) {
-        arguments << u"--publish"_s << u"127.0.0.1:%1"_s.arg(m_publishedPort);
-    }
-    m_process.start(m_program, arguments);
+    m_process.start(m_program, m_arguments + QStringList {u"--port"_s, QString::number(m_port)});
     const QByteArray announcement = ": listening on port ";
     QByteArray line;
     do {

@@ -43,7 +43,7 @@ public:
     QByteArray errors();
 
 protected:
-    ControllerProcess(const QString &program, const QStringList &arguments, quint16 publishedPort);
+    explicit ControllerProcess(const QString &program);
 
     void setArguments(const QStringList &arguments) { m_arguments = arguments; }
 
@@ -53,7 +53,6 @@ private:
 
     QString m_program;
     QStringList m_arguments;
-    quint16 m_publishedPort;
     quint16 m_port = 0;
     bool m_frozen = false;
     QProcess m_process;

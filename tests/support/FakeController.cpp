@@ -11,9 +11,13 @@ QString wireText(const QString &text)
 }
 
 FakeController::FakeController(quint16 publishedPort)
-    : ControllerProcess(QStringLiteral(VEX_TEST_FAKEFCP), {}, publishedPort)
+    : ControllerProcess(QStringLiteral(VEX_TEST_FAKEFCP))
 {
-    setArguments({u"--log"_s, logFile()});
+    QStringList arguments = {u"--log"_s, logFile()};
+    if (publishedPort != 0) {
+        arguments << u"--publish"_s << u"127.0.0.1:%1"_s.arg(publishedPort);
+    }
+    setArguments(arguments);
 }
 
 void FakeController::answer(const QString &operation, const QJsonObject &answer)

@@ -24,9 +24,13 @@ SimulatorProcess::Call parseCall(const QByteArray &line)
 } // namespace
 
 SimulatorProcess::SimulatorProcess(quint16 publishedPort, const QStringList &moreArguments)
-    : ControllerProcess(QStringLiteral(VEX_TEST_SIMULATOR), {}, publishedPort)
+    : ControllerProcess(QStringLiteral(VEX_TEST_SIMULATOR))
 {
-    setArguments(QStringList {u"--root"_s, root(), u"--log"_s, logFile()} + moreArguments);
+    QStringList arguments = {u"--root"_s, root(), u"--log"_s, logFile()};
+    if (publishedPort != 0) {
+        arguments << u"--publish"_s << u"127.0.0.1:%1"_s.arg(publishedPort);
+    }
+    setArguments(arguments + moreArguments);
 }
 
 QVector<SimulatorProcess::Call> SimulatorProcess::calls() const
