@@ -16,3 +16,6 @@ struct Failure
     Exit exit = Exit::Failed;
     QString message;
 };
+
+/// The failure of what was to be done with the file or directory @p path, here or there.
+Failure fileFailure(const QString &path, const QString &reason);

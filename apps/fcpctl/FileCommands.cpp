@@ -15,26 +15,19 @@ namespace {
 
 constexpr int Done = static_cast<int>(Exit::Done);
 
-Failure failed(const QString &path, const QString &reason)
-{
-    return {Exit::Failed, printable(path) + u": "_s + reason};
-}
-
 Failure refused(const QString &path, long answer)
 {
-    return failed(path, u"the instrument refused (it answered %1)"_s.arg(answer));
+    return fileFailure(path, u"the instrument refused (it answered %1)"_s.arg(answer));
 }
 
 FileSystemItem findOrFail(RemoteTree &tree, const QString &path)
 {
     const std::optional<FileSystemItem> item = tree.find(path);
     if (!item) {
-        throw failed(path, u"no such file or directory on the instrument"_s);
+        throw fileFailure(path, u"no such file or directory on the instrument"_s);
     }
     return *item;
 }
-
-// --- ls
 
 QVector<FileSystemItem> itemsToShow(RemoteTree &tree, const QString &path,
                                     const QVector<QString> &patterns)
@@ -45,10 +38,10 @@ QVector<FileSystemItem> itemsToShow(RemoteTree &tree, const QString &path,
     } else {
         const FileSystemItem item = findOrFail(tree, path);
         if (item.isdir) {
-            throw failed(path, u"the instrument can not list it"_s);
+            throw fileFailure(path, u"the instrument can not list it"_s);
         }
         if (path.endsWith(u'/')) {
-            throw failed(path, u"it is a file"_s);
+            throw fileFailure(path, u"it is a file"_s);
         }
         items = {item};
     }
@@ -114,8 +107,6 @@ int ls(const Invocation &invocation)
     return Done;
 }
 
-// --- mkdir
-
 /**
  * The controller chooses the name of a new directory: it is made, then given the name that was
  * asked for. Throws after taking the fresh one away when that is refused.
@@ -125,7 +116,7 @@ void makeDirectory(const Session &session, const QString &path)
     const QString parent = remoteParent(path);
     const QString made = session.ask([&](FcpAppCORBA &fcp) { return fcp.newDirectory(parent); });
     if (made.isEmpty()) {
-        throw failed(path, u"the instrument made no directory in "_s + printable(parent));
+        throw fileFailure(path, u"the instrument made no directory in "_s + printable(parent));
     }
     const QString chosen = remoteName(made);
     if (chosen == remoteName(path)) {
@@ -139,7 +130,7 @@ void makeDirectory(const Session &session, const QString &path)
     }
     const QString left = joinPath(parent, chosen);
     if (session.ask([&](FcpAppCORBA &fcp) { return fcp.deleteFileDirectory(left); }) != 0) {
-        throw failed(
+        throw fileFailure(
             path,
             u"the instrument refused the name (it answered %1); %2 is left over"_s.arg(answer).arg(
                 printable(left)));
@@ -156,7 +147,7 @@ int mkdir(const Invocation &invocation)
     for (const QString &operand : invocation.operands()) {
         const QString path = withoutTrailingSlash(operand);
         if (tree.find(path)) {
-            throw failed(path, u"it exists already"_s);
+            throw fileFailure(path, u"it exists already"_s);
         }
         makeDirectory(session, path);
         tree.forget();
@@ -167,8 +158,6 @@ int mkdir(const Invocation &invocation)
     }
     return Done;
 }
-
-// --- mv, cp
 
 using CarryCall = long (*)(FcpAppCORBA &fcp, const QString &source, const QString &target);
 
@@ -204,7 +193,7 @@ int carry(const Invocation &invocation, CarryCall call)
         findOrFail(tree, source);
         const QString target = tree.target(operands.last(), remoteName(source), sources.size() > 1);
         if (tree.find(target)) {
-            throw failed(target, u"it exists already, and is not overwritten"_s);
+            throw fileFailure(target, u"it exists already, and is not overwritten"_s);
         }
         const long answer =
             session.ask([&](FcpAppCORBA &fcp) { return call(fcp, source, target); });
@@ -230,8 +219,6 @@ int cp(const Invocation &invocation)
     return carry(invocation, copyItem);
 }
 
-// --- rm
-
 int rm(const Invocation &invocation)
 {
     const Session session(invocation.address());
@@ -240,7 +227,7 @@ int rm(const Invocation &invocation)
     for (const QString &operand : invocation.operands()) {
         const QString path = withoutTrailingSlash(operand);
         if (findOrFail(tree, path).isdir && !invocation.isSet(u"r"_s)) {
-            throw failed(path, u"it is a directory; -r removes it with all that is in it"_s);
+            throw fileFailure(path, u"it is a directory; -r removes it with all that is in it"_s);
         }
         const long answer =
             session.ask([&path](FcpAppCORBA &fcp) { return fcp.deleteFileDirectory(path); });

@@ -30,11 +30,6 @@ QByteArray directoryOf(const QByteArray &path)
     return slash == 0 ? QByteArray("/") : path.first(slash);
 }
 
-Failure failed(const QString &path, const QString &reason)
-{
-    return {Exit::Failed, printable(path) + u": "_s + reason};
-}
-
 /// Whether @p descriptor still is what @p path names.
 bool isStillThere(int descriptor, const QByteArray &path)
 {
@@ -136,7 +131,7 @@ int IncomingFile::whyNotWritable(qint64 more) const
 void IncomingFile::commit()
 {
     if (const int error = sync(m_partDirectory + PartName, 0, m_mode)) {
-        throw failed(m_shownTarget, qt_error_string(error));
+        throw fileFailure(m_shownTarget, qt_error_string(error));
     }
     rename();
     removePart();
@@ -161,7 +156,7 @@ void IncomingFile::syncDirectory(const QString &directory)
     if (const int error = sync(toShell(directory), O_DIRECTORY)) {
         // Some file systems can't sync a directory at all.
         if (error != EINVAL) {
-            throw failed(directory, qt_error_string(error));
+            throw fileFailure(directory, qt_error_string(error));
         }
     }
 }
@@ -174,21 +169,22 @@ void IncomingFile::resolveTarget(bool overwrite)
     };
     if (::lstat(m_target.constData(), &found) != 0) {
         if (errno != ENOENT) {
-            throw failed(m_shownTarget, qt_error_string(errno));
+            throw fileFailure(m_shownTarget, qt_error_string(errno));
         }
         return;
     }
     if (!overwrite) {
-        throw failed(m_shownTarget, u"it exists already; --overwrite replaces it"_s);
+        throw fileFailure(m_shownTarget, u"it exists already; --overwrite replaces it"_s);
     }
     const std::unique_ptr<char, void (*)(void *)> resolved(
         ::realpath(m_target.constData(), nullptr), &std::free);
     if (!resolved || ::stat(resolved.get(), &found) != 0) {
-        throw failed(m_shownTarget, qt_error_string(errno));
+        throw fileFailure(m_shownTarget, qt_error_string(errno));
     }
     if (!S_ISREG(found.st_mode)) {
-        throw failed(m_shownTarget,
-                     S_ISDIR(found.st_mode) ? u"it is a directory"_s : u"it is no regular file"_s);
+        throw fileFailure(m_shownTarget,
+                          S_ISDIR(found.st_mode) ? u"it is a directory"_s
+                                                 : u"it is no regular file"_s);
     }
     m_target = resolved.get();
     m_replaces = true;
@@ -199,13 +195,13 @@ void IncomingFile::makePartDirectory()
 {
     const QByteArray directory = directoryOf(m_target);
     if (!isUtf8Name(fromShell(directory))) {
-        throw failed(m_shownTarget, u"the directory's name is not UTF-8"_s);
+        throw fileFailure(m_shownTarget, u"the directory's name is not UTF-8"_s);
     }
     // Another process may take the fresh one for abandoned before it is locked.
     while (m_lock == -1) {
         QByteArray pattern = directory + '/' + PartPrefix + "XXXXXX";
         if (::mkdtemp(pattern.data()) == nullptr) {
-            throw failed(m_shownTarget, qt_error_string(errno));
+            throw fileFailure(m_shownTarget, qt_error_string(errno));
         }
         m_partDirectory = pattern;
         lockPartDirectory();
@@ -235,10 +231,10 @@ void IncomingFile::rename()
         ? (::rename(part.constData(), m_target.constData()) == 0 ? 0 : errno)
         : renameNew(part, m_target);
     if (error == EEXIST) {
-        throw failed(m_shownTarget, u"it has appeared meanwhile, and is not overwritten"_s);
+        throw fileFailure(m_shownTarget, u"it has appeared meanwhile, and is not overwritten"_s);
     }
     if (error != 0) {
-        throw failed(m_shownTarget, qt_error_string(error));
+        throw fileFailure(m_shownTarget, qt_error_string(error));
     }
 }
 

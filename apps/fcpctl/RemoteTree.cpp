@@ -86,8 +86,7 @@ QString RemoteTree::target(const QString &destination, const QString &name, bool
         return joinPath(clean, name);
     }
     if (mustBeDirectory || destination.endsWith(u'/')) {
-        throw Failure {Exit::Failed,
-                       printable(destination) + u": no such directory on the instrument"_s};
+        throw fileFailure(destination, u"no such directory on the instrument"_s);
     }
     return clean;
 }

@@ -23,17 +23,10 @@ constexpr int Carried = 0;
 constexpr int Exists = 2;
 constexpr int Aborted = 3;
 
-Failure failed(const QString &path, const QString &reason)
-{
-    return {Exit::Failed, printable(path) + u": "_s + reason};
-}
-
 QString ofBytes(qint64 part, qint64 whole)
 {
     return u"%1 of %2 bytes"_s.arg(part).arg(whole);
 }
-
-// --- get
 
 /// Where @p source goes on the local disk.
 QString localTarget(const QString &destination, const QString &source, bool mustBeDirectory)
@@ -46,7 +39,7 @@ QString localTarget(const QString &destination, const QString &source, bool must
         return joinPath(destination, remoteName(source));
     }
     if (mustBeDirectory || destination.endsWith(u'/')) {
-        throw failed(destination, qt_error_string(exists ? ENOTDIR : ENOENT));
+        throw fileFailure(destination, qt_error_string(exists ? ENOTDIR : ENOENT));
     }
     return destination;
 }
@@ -63,15 +56,15 @@ Failure whyNotFetched(TransferRun &run, const Transfer &transfer, const Incoming
 {
     run.session().requireLink();
     if (const int error = file.whyNotWritable(std::max<qint64>(0, total - file.partSize()))) {
-        return failed(transfer.destination, qt_error_string(error));
+        return fileFailure(transfer.destination, qt_error_string(error));
     }
     FcpRemoteFile remote(run.session().controller());
     const FileSystemResult opened = remote.open(transfer.source, false, false);
     run.session().requireLink();
-    return failed(transfer.source,
-                  opened == FS_OK
-                      ? u"the instrument gave no more after "_s + ofBytes(transfer.size, total)
-                      : u"the instrument refused to open it"_s);
+    return fileFailure(transfer.source,
+                       opened == FS_OK
+                           ? u"the instrument gave no more after "_s + ofBytes(transfer.size, total)
+                           : u"the instrument refused to open it"_s);
 }
 
 void fetch(TransferRun &run, Transfer &transfer, const QString &target,
@@ -79,10 +72,10 @@ void fetch(TransferRun &run, Transfer &transfer, const QString &target,
 {
     const std::optional<FileSystemItem> item = run.tree().find(transfer.source);
     if (!item) {
-        throw failed(transfer.source, u"no such file on the instrument"_s);
+        throw fileFailure(transfer.source, u"no such file on the instrument"_s);
     }
     if (item->isdir) {
-        throw failed(transfer.source, u"it is a directory"_s);
+        throw fileFailure(transfer.source, u"it is a directory"_s);
     }
     transfer.destination = target;
     run.claim(target);
@@ -101,7 +94,8 @@ void fetch(TransferRun &run, Transfer &transfer, const QString &target,
     }
     // A file that grew meanwhile is a good copy of what it was; a shorter one is none.
     if (transfer.size < item->size) {
-        throw failed(transfer.source, u"only "_s + ofBytes(transfer.size, item->size) + u" came"_s);
+        throw fileFailure(transfer.source,
+                          u"only "_s + ofBytes(transfer.size, item->size) + u" came"_s);
     }
     if (invocation.isSet(u"verify"_s)) {
         try {
@@ -129,8 +123,6 @@ int get(const Invocation &invocation)
     return code;
 }
 
-// --- put
-
 /// A local file as it was when its transfer began.
 class LocalSource
 {
@@ -156,13 +148,13 @@ private:
     struct stat look() const
     {
         if (!isUtf8Name(m_path)) {
-            throw failed(m_path, u"its name is not UTF-8"_s);
+            throw fileFailure(m_path, u"its name is not UTF-8"_s);
         }
         // Not blocking: opening a named pipe would wait for its other end.
         const int descriptor =
             ::open(toShell(m_path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
         if (descriptor == -1) {
-            throw failed(m_path, qt_error_string(errno));
+            throw fileFailure(m_path, qt_error_string(errno));
         }
         struct stat found
         {
@@ -170,12 +162,12 @@ private:
         const int error = ::fstat(descriptor, &found) == 0 ? 0 : errno;
         ::close(descriptor);
         if (error != 0) {
-            throw failed(m_path, qt_error_string(error));
+            throw fileFailure(m_path, qt_error_string(error));
         }
         if (!S_ISREG(found.st_mode)) {
-            throw failed(m_path,
-                         S_ISDIR(found.st_mode) ? u"it is a directory"_s
-                                                : u"it is no regular file"_s);
+            throw fileFailure(m_path,
+                              S_ISDIR(found.st_mode) ? u"it is a directory"_s
+                                                     : u"it is no regular file"_s);
         }
         return found;
     }
@@ -204,7 +196,7 @@ Failure whyNotSent(TransferRun &run, const Transfer &transfer, qint64 total)
             u"; "_s + printable(transfer.destination) + u" may be incomplete on the instrument"_s;
         return lost;
     }
-    return failed(
+    return fileFailure(
         transfer.source,
         u"failed after %1, the instrument refused the rest; %2"_s.arg(
             ofBytes(transfer.size, total), leftOnInstrument(run, transfer.destination, total)));
@@ -219,7 +211,8 @@ void send(TransferRun &run, Transfer &transfer, const QString &target, const Inv
     case Carried:
         break;
     case Exists:
-        throw failed(target, u"it exists already on the instrument; --overwrite replaces it"_s);
+        throw fileFailure(target,
+                          u"it exists already on the instrument; --overwrite replaces it"_s);
     case Aborted:
         throw Interrupted {leftOnInstrument(run, target, local.size())};
     default:
@@ -233,9 +226,9 @@ void send(TransferRun &run, Transfer &transfer, const QString &target, const Inv
         }
     }
     if (local.hasChanged() || transfer.size != local.size()) {
-        throw failed(transfer.source,
-                     u"it changed while it was carried; what is on the instrument "
-                     u"may be a mixture"_s);
+        throw fileFailure(transfer.source,
+                          u"it changed while it was carried; what is on the instrument "
+                          u"may be a mixture"_s);
     }
 }
 

@@ -15,11 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Failure failed(const QString &path, const QString &reason)
-{
-    return {Exit::Failed, printable(path) + u": "_s + reason};
-}
-
 QJsonArray toJson(const QList<Transfer> &transfers)
 {
     QJsonArray array;
@@ -94,8 +89,8 @@ void TransferRun::carryOne(const QString &source, const Carry &carry)
         transfer.failure = u"interrupted; "_s + interrupted.left;
     } catch (const Failure &failure) {
         m_linkLost = failure.exit == Exit::NoLink;
-        transfer.failure
-            = m_linkLost ? printable(source) + u": "_s + failure.message : failure.message;
+        transfer.failure =
+            m_linkLost ? printable(source) + u": "_s + failure.message : failure.message;
     }
     m_transfers += transfer;
     report(transfer);
@@ -150,7 +145,8 @@ int TransferRun::exitCode() const
 void TransferRun::claim(const QString &destination)
 {
     if (m_claimed.contains(destination)) {
-        throw failed(destination, u"an earlier file of the same name has just been put there"_s);
+        throw fileFailure(destination,
+                          u"an earlier file of the same name has just been put there"_s);
     }
     m_claimed += destination;
 }
@@ -181,9 +177,9 @@ QByteArray TransferRun::verify(const QString &localPath, const QString &remotePa
     m_bar.clear();
     const QByteArray local = localChecksum(localPath);
     if (local != remote) {
-        throw failed(remotePath,
-                     u"the two files differ: SHA-256 %1 on the instrument, %2 here"_s.arg(
-                         QLatin1String(remote), QLatin1String(local)));
+        throw fileFailure(remotePath,
+                          u"the two files differ: SHA-256 %1 on the instrument, %2 here"_s.arg(
+                              QLatin1String(remote), QLatin1String(local)));
     }
     return local;
 }
@@ -192,7 +188,7 @@ QByteArray TransferRun::localChecksum(const QString &path) const
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        throw failed(path, file.errorString());
+        throw fileFailure(path, file.errorString());
     }
     Checksum checksum;
     QByteArray buffer(QvexFileMover::ChunkSize, Qt::Uninitialized);
@@ -202,7 +198,7 @@ QByteArray TransferRun::localChecksum(const QString &path) const
         checksum.add(QByteArrayView(buffer).first(got));
     }
     if (got < 0) {
-        throw failed(path, file.errorString());
+        throw fileFailure(path, file.errorString());
     }
     return checksum.hex();
 }
@@ -224,7 +220,7 @@ QByteArray TransferRun::remoteChecksum(const QString &path)
     }
     m_session.requireLink();
     if (result != FS_NOMORE) {
-        throw failed(path, u"it can not be read back from the instrument"_s);
+        throw fileFailure(path, u"it can not be read back from the instrument"_s);
     }
     return checksum.hex();
 }
