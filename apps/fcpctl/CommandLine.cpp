@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString DefaultHost = u"localhost"_s;
-constexpr int DefaultPort = 5800;
+constexpr int DefaultPort = 5650;
 
 QList<QCommandLineOption> commonOptions()
 {

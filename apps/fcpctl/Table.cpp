@@ -44,5 +44,8 @@ QString Table::line(const QStringList &row) const
             line += (right ? QString() : padding) + u"  "_s;
         }
     }
+    while (line.endsWith(u' ')) {
+        line.chop(1);
+    }
     return line;
 }
