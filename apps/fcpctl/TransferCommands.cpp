@@ -39,7 +39,7 @@ QString localTarget(const QString &destination, const QString &source, bool must
         return joinPath(destination, remoteName(source));
     }
     if (mustBeDirectory || destination.endsWith(u'/')) {
-        throw fileFailure(destination, qt_error_string(exists ? ENOTDIR : ENOENT));
+        throw fileFailure(destination, qt_error_string(exists ? ENOTDIR : errno));
     }
     return destination;
 }
