@@ -22,7 +22,7 @@ namespace {
 
 constexpr int PatienceMs = 20'000;
 /// So long that a transfer can be stopped in its middle.
-constexpr qint64 Long = 512 * 1024 * 1024;
+constexpr qint64 Long = 192 * 1024 * 1024;
 
 void writeFile(const QString &path, const QByteArray &contents)
 {
@@ -33,7 +33,7 @@ void writeFile(const QString &path, const QByteArray &contents)
 }
 
 /// A sparse one.
-void writeLongFile(const QString &path)
+void makeLongFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || !file.resize(Long)) {
@@ -81,6 +81,8 @@ private Q_SLOTS:
 private:
     QString here(const QString &name) const { return m_here.filePath(name); }
     QString there(const QString &name) const { return m_simulator.local(u"/Internal/"_s + name); }
+    enum class Direction { Get, Put };
+    void prepare(Direction direction);
     bool hasPart() const;
     bool isUnderWay() const;
     void stopInTheMiddle(Fcpctl &program);
@@ -94,6 +96,15 @@ void TestFcpctlTransfers::initTestCase()
     m_simulator.start();
 }
 
+/// Leaves a long file on one side only, and nothing of an earlier transfer.
+void TestFcpctlTransfers::prepare(Direction direction)
+{
+    for (const QString &path : {here(u"long"_s), there(u"long"_s), there(u"long.part"_s)}) {
+        QFile::remove(path);
+    }
+    makeLongFile(direction == Direction::Get ? there(u"long"_s) : here(u"long"_s));
+}
+
 bool TestFcpctlTransfers::hasPart() const
 {
     return !QDir(m_here.path())
@@ -105,7 +116,7 @@ bool TestFcpctlTransfers::hasPart() const
 void TestFcpctlTransfers::stopInTheMiddle(Fcpctl &program)
 {
     program.start();
-    QTRY_VERIFY_WITH_TIMEOUT(isUnderWay(), PatienceMs);
+    QVERIFY(QTest::qWaitFor([this] { return isUnderWay(); }, PatienceMs)); // polls every 10 ms
     m_simulator.freeze();
     QVERIFY2(program.isRunning(), program.errors().constData());
 }
@@ -284,7 +295,7 @@ void TestFcpctlTransfers::drawsABarOnATerminal()
 
 void TestFcpctlTransfers::killedGetLeavesTheOldFile()
 {
-    writeLongFile(there(u"long"_s));
+    prepare(Direction::Get);
     writeFile(here(u"long"_s), "old");
     Fcpctl get(m_simulator.port(),
                {u"get"_s, u"--overwrite"_s, u"/Internal/long"_s, here(u"long"_s)});
@@ -304,8 +315,7 @@ void TestFcpctlTransfers::killedGetLeavesTheOldFile()
 
 void TestFcpctlTransfers::getDoesNotReplaceWhatHasAppeared()
 {
-    writeLongFile(there(u"long"_s));
-    QFile::remove(here(u"long"_s));
+    prepare(Direction::Get);
     Fcpctl get(m_simulator.port(), {u"get"_s, u"/Internal/long"_s, m_here.path()});
     stopInTheMiddle(get);
     writeFile(here(u"long"_s), "appeared");
@@ -318,8 +328,7 @@ void TestFcpctlTransfers::getDoesNotReplaceWhatHasAppeared()
 
 void TestFcpctlTransfers::getsSideBySideLeaveEachOtherAlone()
 {
-    writeLongFile(there(u"long"_s));
-    QFile::remove(here(u"long"_s));
+    prepare(Direction::Get);
     QFile::remove(here(u"source"_s));
     writeFile(there(u"source"_s), "new");
     Fcpctl slow(m_simulator.port(), {u"get"_s, u"/Internal/long"_s, m_here.path()});
@@ -332,8 +341,7 @@ void TestFcpctlTransfers::getsSideBySideLeaveEachOtherAlone()
 
 void TestFcpctlTransfers::putTellsWhenTheFileChanged()
 {
-    QFile::remove(there(u"long"_s));
-    writeLongFile(here(u"long"_s));
+    prepare(Direction::Put);
     Fcpctl put(m_simulator.port(), {u"put"_s, here(u"long"_s), u"/Internal"_s});
     stopInTheMiddle(put);
     QFile file(here(u"long"_s));
@@ -347,8 +355,7 @@ void TestFcpctlTransfers::putTellsWhenTheFileChanged()
 
 void TestFcpctlTransfers::interruptedGetLeavesNothing()
 {
-    writeLongFile(there(u"long"_s));
-    QFile::remove(here(u"long"_s));
+    prepare(Direction::Get);
     Fcpctl get(m_simulator.port(), {u"get"_s, u"/Internal/long"_s, m_here.path()});
     stopInTheMiddle(get);
     get.signal(SIGINT);
@@ -361,8 +368,7 @@ void TestFcpctlTransfers::interruptedGetLeavesNothing()
 
 void TestFcpctlTransfers::interruptedPutTellsWhatIsLeft()
 {
-    QFile::remove(there(u"long"_s));
-    writeLongFile(here(u"long"_s));
+    prepare(Direction::Put);
     writeFile(here(u"good"_s), "good");
     Fcpctl put(m_simulator.port(), {u"put"_s, here(u"long"_s), here(u"good"_s), u"/Internal"_s});
     stopInTheMiddle(put);
@@ -379,8 +385,7 @@ void TestFcpctlTransfers::interruptedPutTellsWhatIsLeft()
 
 void TestFcpctlTransfers::secondInterruptEndsAtOnce()
 {
-    QFile::remove(there(u"long"_s));
-    writeLongFile(here(u"long"_s));
+    prepare(Direction::Put);
     Fcpctl put(m_simulator.port(), {u"put"_s, here(u"long"_s), u"/Internal"_s});
     stopInTheMiddle(put);
     // A signal that comes before the one before it was handled is lost.
@@ -396,7 +401,7 @@ void TestFcpctlTransfers::secondInterruptEndsAtOnce()
 
 void TestFcpctlTransfers::lostLinkEndsWith3()
 {
-    writeLongFile(here(u"long"_s));
+    prepare(Direction::Put);
     writeFile(here(u"good"_s), "good");
     Fcpctl put(m_simulator.port(),
                {u"put"_s, u"--overwrite"_s, here(u"long"_s), here(u"good"_s), u"/Internal"_s});
@@ -405,7 +410,6 @@ void TestFcpctlTransfers::lostLinkEndsWith3()
     QCOMPARE(put.wait(), 3);
     QVERIFY2(put.errors().contains("/Internal/long may be incomplete"), put.errors().constData());
     QVERIFY2(put.errors().contains("good: not tried"), put.errors().constData());
-    m_simulator.start();
 }
 
 QTEST_GUILESS_MAIN(TestFcpctlTransfers)
