@@ -108,9 +108,9 @@ void Connections::accepted(omni::giopConnection *connection)
     made->inode = inodeOf(made->socket);
     made->host = hostOf(connection->peeraddress());
     setOption(made->socket, SOL_SOCKET, SO_KEEPALIVE, 1);
-    setOption(made->socket, IPPROTO_TCP, TCP_KEEPIDLE, 5);
-    setOption(made->socket, IPPROTO_TCP, TCP_KEEPINTVL, 3);
-    setOption(made->socket, IPPROTO_TCP, TCP_KEEPCNT, 3);
+    setOption(made->socket, IPPROTO_TCP, TCP_KEEPIDLE, 4);
+    setOption(made->socket, IPPROTO_TCP, TCP_KEEPINTVL, 2);
+    setOption(made->socket, IPPROTO_TCP, TCP_USER_TIMEOUT, 10000);
 
     std::shared_ptr<Connection> before;
     {

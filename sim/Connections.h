@@ -25,6 +25,7 @@ struct Connection
     int socket = -1; ///< the ORB's; valid during a call that came over it
     ino_t inode = 0; ///< tells this socket from a later one with the same number
     std::atomic<bool> gone = false;
+    std::atomic<int> longCalls = 0; ///< calls under way that take long
 };
 
 /**
@@ -32,8 +33,10 @@ struct Connection
  *
  * The ORB tells when a connection comes and shows it with each call, but not when it goes. So a
  * thread looks a few times a second whether each socket is still the one that was accepted and
- * whether the other end has hung up; no client is called for that. TCP keep-alive finds the ones
- * whose host has vanished, after some 15 s.
+ * whether the other end has hung up; no client is called for that.
+ *
+ * TCP gives a connection up whose other end has vanished, or has not taken what was sent to it for
+ * ten seconds.
  */
 class Connections
 {

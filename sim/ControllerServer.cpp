@@ -126,22 +126,27 @@ bool ControllerServer::initialize(int &argc, char **argv, const std::string &hos
         // A client that can not be called over its own connection is not called at all.
         {"clientTransportRule", "* none"},
         {"giopMaxMsgSize", "536870912"},
-        // A client that stops reading holds its own sender's thread this long, in milliseconds.
-        {"clientCallTimeOutPeriod", "5000"},
-        // Likewise one that stops in the middle of a request, or does not take an answer.
-        {"serverCallTimeOutPeriod", "30000"},
-        // Calls that come while another one is carried out on the same connection start at once.
-        {"connectionWatchImmediate", "1"},
+        // Time-outs cost each call system calls of their own. What they are for is left to TCP, see
+        // Connections: a client that stops reading holds a thread no longer than ten seconds.
+        {"clientCallTimeOutPeriod", "0"},
+        {"serverCallTimeOutPeriod", "0"},
+        // Likewise; a call that takes long has its connection watched itself, see CallContext.
+        {"connectionWatchImmediate", "0"},
         {"maxServerThreadPerConnection", "1000"},
         {"maxServerThreadPoolSize", "10000"},
         {"traceLevel", "0"},
         {nullptr, nullptr},
     };
+    omniORB::traceLevel = 0; // its complaints about the options come before it reads them
+    std::string words;
+    for (int i = 1; i < argc; ++i) {
+        words.append(" ").append(argv[i]);
+    }
     try {
         m_orb = CORBA::ORB_init(argc, argv, "omniORB4", options);
         return true;
-    } catch (const CORBA::Exception &exception) {
-        m_error = std::string("the ORB does not accept its options (") + exception._name() + ')';
+    } catch (const CORBA::Exception &) {
+        m_error = "the ORB does not accept its options:" + words;
         return false;
     }
 }

@@ -5,10 +5,13 @@
 #include <omniORB4/callHandle.h>
 
 #include "ClientRegistry.h"
+#include "FaultInjection.h"
+#include "Faults.h"
 #include "FileHandles.h"
 #include "Instrument.h"
 #include "LoggedCall.h"
 #include "Rack.h"
+#include "TestRunner.h"
 
 namespace {
 
@@ -51,16 +54,18 @@ void FcpServant::connectionGone(std::uint64_t connection)
 
 CORBA::Boolean FcpServant::_dispatch(omniCallHandle &call)
 {
-    CallContext context;
-    context.connection = m_parts.connections.find(call.connection());
-    if (!context.connection) {
+    const std::shared_ptr<Connection> connection = m_parts.connections.find(call.connection());
+    if (!connection) {
         throw CORBA::NO_PERMISSION(); // a call from within this process
     }
-    const CallContext::Scope scope(context);
-    const bool known = execute(call);
+    CallContext context(connection, call.connection());
+    context.delay = m_parts.faults.latency();
+    const std::optional<Fault> fault = m_parts.faults.next(call.operation_name());
+    const bool known =
+        fault ? injectFault(*fault, call, context, [&] { return execute(call); }) : execute(call);
     // The connection may have gone while the call took something for it.
-    if (context.connection->gone) {
-        connectionGone(context.connection->id);
+    if (connection->gone) {
+        connectionGone(connection->id);
     }
     return known;
 }
@@ -106,6 +111,7 @@ void FcpServant::getAvailableTests(AvailableTestInformationCORBASeq_out tests)
 void FcpServant::getController(ControllerInformationCORBA_out controller)
 {
     LoggedCall call(m_parts.log, "getController");
+    CallContext::current()->expectToTakeLong(); // pictures may be of any size
     controller = new ControllerInformationCORBA;
     controller->controllerModel = m_parts.instrument.model.constData();
     controller->controllerSerial = m_parts.instrument.serial.constData();
@@ -123,6 +129,7 @@ void FcpServant::getControllerStatus(ControllerStatusInformationCORBA &status)
 void FcpServant::getPorts(PortInformationCORBASeq_out ports)
 {
     LoggedCall call(m_parts.log, "getPorts");
+    CallContext::current()->expectToTakeLong();
     ports = new PortInformationCORBASeq;
     for (const Module &module : m_parts.rack.modules()) {
         for (const Port &port : module.ports) {
@@ -138,6 +145,7 @@ void FcpServant::getPorts(PortInformationCORBASeq_out ports)
 void FcpServant::getModules(ModuleInformationCORBASeq_out modules)
 {
     LoggedCall call(m_parts.log, "getModules");
+    CallContext::current()->expectToTakeLong();
     modules = new ModuleInformationCORBASeq;
     for (const Module &module : m_parts.rack.modules()) {
         ModuleInformationCORBA &information = appendTo(*modules.ptr());
@@ -157,6 +165,12 @@ void FcpServant::getActiveTests(TestInformationCORBASeq_out tests, const char *t
 {
     LoggedCall call(m_parts.log, "getActiveTests", testName);
     tests = new TestInformationCORBASeq;
+    for (const TestRunner::Test &test : m_parts.tests.tests(testName)) {
+        TestInformationCORBA &information = appendTo(*tests.ptr());
+        information.testID = test.id;
+        information.testTcpPort = test.port;
+        information.testName = test.name.constData();
+    }
     call.done();
 }
 
@@ -164,12 +178,15 @@ void FcpServant::getActiveClients(CORBA::Long testId, ClientInformationCORBASeq_
 {
     LoggedCall call(m_parts.log, "getActiveClients", testId);
     clients = new ClientInformationCORBASeq;
-    for (const ClientRegistry::Client &client : m_parts.clients.clients()) {
+    const TestRunner::Test test = m_parts.tests.test(testId);
+    const bool isKnown = testId == 0 || test.id != 0;
+    for (const ClientRegistry::Client &client :
+         isKnown ? m_parts.clients.clients() : std::vector<ClientRegistry::Client>()) {
         ClientInformationCORBA &information = appendTo(*clients.ptr());
         information.clientId = client.id;
         information.clientName = ("client " + std::to_string(client.id)).c_str();
         information.clientHost = client.host.c_str();
-        information.clientReadOnly = false;
+        information.clientReadOnly = testId != 0 && client.id != test.readWriteClient;
     }
     call.done();
 }
@@ -177,6 +194,9 @@ void FcpServant::getActiveClients(CORBA::Long testId, ClientInformationCORBASeq_
 void FcpServant::setActiveClientReadWrite(CORBA::Long testId, CORBA::Long clientId)
 {
     LoggedCall call(m_parts.log, "setActiveClientReadWrite", testId, clientId);
+    if (m_parts.tests.setReadWriteClient(testId, clientId)) {
+        m_parts.clients.sendEvent(CLIENT_STATUS);
+    }
     call.done();
 }
 
@@ -223,19 +243,30 @@ CORBA::Long FcpServant::launchTest(const char *testName,
                                    const TestArgInformationCORBASeq &arguments)
 {
     LoggedCall call(m_parts.log, "launchTest", testName, arguments.length());
-    return call.result(CORBA::Long(-1));
+    if (CallContext::current()->mustFail) {
+        return call.result(CORBA::Long(TestRunner::NotStarted));
+    }
+    CallContext::current()->expectToTakeLong();
+    QStringList words;
+    for (CORBA::ULong i = 0; i < arguments.length(); ++i) {
+        words.append(QString::fromUtf8(arguments[i].arg.in()));
+    }
+    const std::vector<int> clients =
+        m_parts.clients.clientsOf(CallContext::current()->connection->id);
+    return call.result(
+        CORBA::Long(m_parts.tests.launch(testName, words, clients.empty() ? 0 : clients.front())));
 }
 
 CORBA::Boolean FcpServant::terminateTest(CORBA::Long testId, CORBA::Boolean flag)
 {
     LoggedCall call(m_parts.log, "terminateTest", testId, bool(flag));
-    return call.result(false);
+    return call.result(!CallContext::current()->mustFail && m_parts.tests.terminate(testId, flag));
 }
 
 TestStatus FcpServant::getTestStatus(CORBA::Long testId)
 {
     LoggedCall call(m_parts.log, "getTestStatus", testId);
-    return call.result(TEST_NA);
+    return call.result(m_parts.tests.test(testId).status);
 }
 
 CORBA::Long FcpServant::requestResources(const ResourceRequestInformationCORBASeq &resources,
@@ -245,6 +276,9 @@ CORBA::Long FcpServant::requestResources(const ResourceRequestInformationCORBASe
     std::vector<Rack::ResourceKey> keys;
     for (CORBA::ULong i = 0; i < resources.length(); ++i) {
         keys.emplace_back(resources[i].moduleID, resources[i].resourceID);
+    }
+    if (CallContext::current()->mustFail) {
+        return call.result(CORBA::Long(-1));
     }
     const int request = m_parts.rack.request(CallContext::current()->connection->id, keys);
     if (request >= 0) {
@@ -262,7 +296,7 @@ CORBA::Long FcpServant::getResourceRequestStatus(CORBA::Long requestId)
 CORBA::Long FcpServant::getTestTcpPort(CORBA::Long testId)
 {
     LoggedCall call(m_parts.log, "getTestTcpPort", testId);
-    return call.result(CORBA::Long(0));
+    return call.result(CORBA::Long(m_parts.tests.test(testId).port));
 }
 
 FileSystemResult FcpServant::pushFileContents(CORBA::Long, const CharSequence &)

@@ -9,10 +9,12 @@
 class CallLog;
 class ClientRegistry;
 class Connections;
+class Faults;
 class FileHandles;
 class LoggedCall;
 class Rack;
 class Storage;
+class TestRunner;
 struct Instrument;
 
 /** What the controller's operations work on. */
@@ -24,6 +26,8 @@ struct ControllerParts
     Connections &connections;
     Storage &storage;
     FileHandles &files;
+    TestRunner &tests;
+    Faults &faults;
     CallLog &log;
 };
 

@@ -51,6 +51,7 @@ CORBA::Long FcpServant::renameFileDirectory(const char *directory, const char *o
 CORBA::Long FcpServant::moveFileDirectory(const char *source, const char *destination)
 {
     LoggedCall call(m_parts.log, "moveFileDirectory", source, destination);
+    CallContext::current()->expectToTakeLong();
     return call.result(
         CORBA::Long(withPaths([&](const std::string &from,
                                   const std::string &to) { return m_parts.storage.move(from, to); },
@@ -60,6 +61,7 @@ CORBA::Long FcpServant::moveFileDirectory(const char *source, const char *destin
 CORBA::Long FcpServant::copyFileDirectory(const char *source, const char *destination)
 {
     LoggedCall call(m_parts.log, "copyFileDirectory", source, destination);
+    CallContext::current()->expectToTakeLong();
     return call.result(
         CORBA::Long(withPaths([&](const std::string &from,
                                   const std::string &to) { return m_parts.storage.copy(from, to); },
@@ -69,6 +71,7 @@ CORBA::Long FcpServant::copyFileDirectory(const char *source, const char *destin
 CORBA::Long FcpServant::deleteFileDirectory(const char *path)
 {
     LoggedCall call(m_parts.log, "deleteFileDirectory", path);
+    CallContext::current()->expectToTakeLong();
     return call.result(CORBA::Long(withPaths(
         [&](const std::string &removed) { return m_parts.storage.remove(removed); }, path)));
 }
@@ -78,6 +81,7 @@ CORBA::Boolean FcpServant::getFileSystemItems(const char *directory, CORBA::Long
                                               FileSystemItemCORBASeq_out items)
 {
     LoggedCall call(m_parts.log, "getFileSystemItems", directory, filterFlags, patterns.length());
+    CallContext::current()->expectToTakeLong();
     std::vector<std::string> names;
     for (CORBA::ULong i = 0; i < patterns.length(); ++i) {
         names.emplace_back(patterns[i].filter);

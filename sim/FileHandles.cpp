@@ -4,7 +4,9 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
+#include <array>
 #include <cerrno>
+#include <functional>
 #include <mutex>
 #include <random>
 #include <vector>
@@ -93,25 +95,31 @@ FileSystemResult OpenFile::openUpload(const Storage &storage, const std::string 
     } else if (errno != ENOENT) {
         return FS_ERROR;
     }
-    partial = partialName(target.name);
+    partial = temporaryName(target.name, ".part");
     return openPartial();
 }
 
 /// Opens the partial file for this upload alone, emptied of what an earlier one may have left.
 FileSystemResult OpenFile::openPartial()
 {
-    for (int attempt = 0; attempt < 10; ++attempt) {
-        fd = UniqueFd(::openat(target.directory.get(), partial.c_str(),
-                               O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0644));
-        if (!fd || ::flock(fd.get(), LOCK_EX | LOCK_NB) != 0) {
-            return FS_ERROR;
-        }
-        // An upload that ended between the two calls has given the file its final name.
-        if (isSameFile(fd.get(), target.directory.get(), partial)) {
-            return ::ftruncate(fd.get(), 0) == 0 ? FS_OK : FS_ERROR;
-        }
+    constexpr int flags = O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    // Uploads of one name go through here one after the other, so a new file is locked at once.
+    static std::array<std::mutex, 64> mutexes;
+    const std::lock_guard lock(mutexes[std::hash<std::string>()(partial) % mutexes.size()]);
+
+    const int directory = target.directory.get();
+    fd = UniqueFd(::openat(directory, partial.c_str(), flags | O_CREAT | O_EXCL, 0644));
+    const bool isNew = bool(fd);
+    if (!isNew) {
+        fd = UniqueFd(::openat(directory, partial.c_str(), flags));
     }
-    return FS_ERROR;
+    if (!fd || ::flock(fd.get(), LOCK_EX | LOCK_NB) != 0) {
+        return FS_ERROR; // another upload to the same target is under way, for instance
+    }
+    // An upload that has just ended may have given what was opened its final name.
+    const bool isOurs =
+        isNew || (isSameFile(fd.get(), directory, partial) && ::ftruncate(fd.get(), 0) == 0);
+    return isOurs ? FS_OK : FS_ERROR;
 }
 
 /// Gives an upload its final name. The lock is kept until that is done.

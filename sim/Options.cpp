@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
+#include "Faults.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -82,10 +84,16 @@ Options readOptions(const QStringList &arguments)
         u"log"_s, u"Append a line to this file for each call carried out; costs time."_s,
         u"file"_s);
 
+    const QCommandLineOption latency(u"latency"_s,
+                                     u"Answer every call this many milliseconds later."_s, u"ms"_s);
+    const QCommandLineOption fault(
+        u"fault"_s, u"Misbehave by this rule, see below; may be given several times."_s, u"rule"_s);
+
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(QString::fromUtf8(Description));
-    parser.addOptions({help, version, host, port, publish, root, instrument, sync, log});
+    parser.addOptions(
+        {help, version, host, port, publish, root, instrument, latency, fault, sync, log});
 
     Options options;
     const QStringList words = takeOrbWords(arguments, options.orbWords);
@@ -94,7 +102,8 @@ Options readOptions(const QStringList &arguments)
         return options;
     }
     if (parser.isSet(help)) {
-        options.answer = parser.helpText() + QString::fromUtf8(Notes);
+        options.answer = parser.helpText() + u'\n' + QString::fromUtf8(Faults::help())
+            + QString::fromUtf8(Notes);
         return options;
     }
     if (parser.isSet(version)) {
@@ -121,6 +130,13 @@ Options readOptions(const QStringList &arguments)
         options.error = u"--publish %1: HOST:PORT is expected"_s.arg(options.publish);
         return options;
     }
+    number = 0;
+    if (parser.isSet(latency)
+        && !readNumber(parser.value(latency), 0, 86400000, u"latency"_s, number, options.error)) {
+        return options;
+    }
+    options.latency = std::chrono::milliseconds(number);
+    options.faults = parser.values(fault);
     if (parser.isSet(instrument)) {
         options.instrument = parser.value(instrument);
     }

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,8 @@ struct Options
     unsigned short port = 5650;
     /// "HOST:PORT", the address that clients are sent to; empty: the one they have used.
     QString publish;
+    std::chrono::milliseconds latency {0};
+    QStringList faults;
     QString log;
     bool sync = false;
     std::vector<std::string> orbWords; ///< "-ORB..." and their values

@@ -1,5 +1,7 @@
 #include "Simulator.h"
 
+#include "CallContext.h"
+
 #include <QDir>
 
 #include <chrono>
@@ -23,7 +25,9 @@ Simulator::Simulator(const Options &options)
     , m_files(m_storage, options.sync)
     , m_rack(m_instrument)
     , m_clients([this](std::uint64_t connection) { m_connections.cut(connection); })
-    , m_servant({m_instrument, m_rack, m_clients, m_connections, m_storage, m_files, m_log})
+    , m_tests(m_instrument, [this] { m_clients.sendEvent(TEST_STATUS); })
+    , m_servant({m_instrument, m_rack, m_clients, m_connections, m_storage, m_files, m_tests,
+                 m_faults, m_log})
 {
 }
 
@@ -39,9 +43,18 @@ Simulator::ExitCode Simulator::start()
     if (!readInstrument(m_options.instrument, m_instrument, error)) {
         return fail(BadInput, error);
     }
-    if (const ExitCode code = openFiles(); code != Done) {
-        return code;
+    m_faults.setLatency(m_options.latency);
+    for (const QString &rule : m_options.faults) {
+        if (const std::string wrong = m_faults.add(rule.toStdString()); !wrong.empty()) {
+            return fail(BadInput, QString::fromStdString(wrong));
+        }
     }
+    const ExitCode code = openFiles();
+    return code == Done ? startServer() : code;
+}
+
+Simulator::ExitCode Simulator::startServer()
+{
     std::vector<std::string> words = m_options.orbWords;
     words.insert(words.begin(), "fcp-sim");
     std::vector<char *> argv;
@@ -54,6 +67,7 @@ Simulator::ExitCode Simulator::start()
         return fail(BadInput, QString::fromStdString(m_server.error()));
     }
     m_connections.install();
+    CallContext::install();
     m_connections.watch([this](std::uint64_t connection) { m_servant.connectionGone(connection); });
     if (!m_server.serve(&m_servant, m_options.publish.toStdString())) {
         return fail(CannotRun, QString::fromStdString(m_server.error()));
@@ -87,6 +101,7 @@ bool Simulator::stop()
 {
     using namespace std::chrono_literals;
 
+    m_tests.stop();
     // Politely to those who listen; a client that does not would hold the ORB for seconds.
     m_connections.cutBlocked();
     bool isOver = m_clients.stop(500ms);

@@ -9,12 +9,14 @@
 #include "ClientRegistry.h"
 #include "Connections.h"
 #include "ControllerServer.h"
+#include "Faults.h"
 #include "FcpServant.h"
 #include "FileHandles.h"
 #include "Instrument.h"
 #include "Options.h"
 #include "Rack.h"
 #include "Storage.h"
+#include "TestRunner.h"
 
 /** The whole simulated controller, put together. */
 class Simulator
@@ -31,6 +33,10 @@ public:
     QString rootDirectory() const { return m_rootPath; }
     unsigned short port() const { return m_server.port(); }
 
+    ClientRegistry &clients() { return m_clients; }
+    Faults &faults() { return m_faults; }
+    Rack &rack() { return m_rack; }
+
     /**
      * Stops serving, within two seconds whatever the clients do.
      * @return false when threads of the ORB are still busy, so that only leaving the process ends
@@ -41,6 +47,7 @@ public:
 private:
     ExitCode fail(ExitCode code, const QString &error);
     ExitCode openFiles();
+    ExitCode startServer();
 
     const Options m_options;
     QString m_error;
@@ -53,6 +60,8 @@ private:
     Rack m_rack;
     Connections m_connections;
     ClientRegistry m_clients;
+    TestRunner m_tests;
+    Faults m_faults;
     FcpServant m_servant;
     ControllerServer m_server;
 };

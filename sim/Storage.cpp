@@ -270,12 +270,12 @@ int Storage::copy(const std::string &source, const std::string &destination) con
     if (contains(from, to.directory)) {
         return EINVAL;
     }
-    std::string partial = partialName(to.name);
+    std::string partial = temporaryName(to.name, ".copying");
     int error = EEXIST;
     for (int number = 2; error == EEXIST && number < 100; ++number) {
         error = copyTree(from.directory.get(), from.name, to.directory.get(), partial);
-        if (error == EEXIST) { // somebody uploads under this very name
-            partial = partialName(to.name + '.' + std::to_string(number));
+        if (error == EEXIST) { // another copy is under way, or was cut off
+            partial = temporaryName(to.name, '.' + std::to_string(number) + ".copying");
         }
     }
     if (error == EEXIST) {
@@ -313,9 +313,8 @@ int renameNoReplace(int oldDirectory, const char *oldName, int newDirectory, con
     return ::renameat(oldDirectory, oldName, newDirectory, newName) == 0 ? 0 : errno;
 }
 
-std::string partialName(const std::string &name)
+std::string temporaryName(const std::string &name, const std::string &suffix)
 {
-    static const std::string suffix = ".part";
     if (name.size() + suffix.size() <= 255) {
         return name + suffix;
     }

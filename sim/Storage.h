@@ -65,5 +65,5 @@ private:
 /** Renames without replacing; EEXIST when @p newName is there. */
 int renameNoReplace(int oldDirectory, const char *oldName, int newDirectory, const char *newName);
 
-/** The name under which @p name is written before it is whole: "name.part", not over 255 bytes. */
-std::string partialName(const std::string &name);
+/** @p name with @p suffix, shortened where that would be too long for a name. */
+std::string temporaryName(const std::string &name, const std::string &suffix);

@@ -7,9 +7,12 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstring>
 
+#include "Console.h"
 #include "Options.h"
 #include "Simulator.h"
+#include "TestProcess.h"
 
 namespace {
 
@@ -67,6 +70,7 @@ int run(const Options &options)
         return fail(simulator.error(), code);
     }
     catchStopSignals();
+    const Console console(simulator);
     std::printf("fcp-sim: root %s\nfcp-sim: listening on port %u\n",
                 qPrintable(simulator.rootDirectory()), unsigned(simulator.port()));
     std::fflush(stdout);
@@ -82,6 +86,9 @@ int run(const Options &options)
 int main(int argc, char **argv)
 {
     fillStandardStreams();
+    if (argc > 1 && std::strcmp(argv[1], "--test-process") == 0) {
+        return runTestProcess(argc, argv);
+    }
     raiseDescriptorLimit();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("fcp-sim"));
