@@ -132,6 +132,8 @@ bool ControllerServer::initialize(int &argc, char **argv, const std::string &hos
         {"serverCallTimeOutPeriod", "0"},
         // Likewise; a call that takes long has its connection watched itself, see CallContext.
         {"connectionWatchImmediate", "0"},
+        // The first event would wait for the client to answer whether it is there.
+        {"verifyObjectExistsAndType", "0"},
         {"maxServerThreadPerConnection", "1000"},
         {"maxServerThreadPoolSize", "10000"},
         {"traceLevel", "0"},
