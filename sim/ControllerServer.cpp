@@ -26,8 +26,18 @@ std::string inBrackets(const std::string &host)
     return host.find(':') == host.npos || host.front() == '[' ? host : '[' + host + ']';
 }
 
-/// Why nothing can listen there; the ORB does not say.
-std::string bindError(const std::string &host, unsigned short port)
+struct Listening
+{
+    unsigned short port = 0; ///< 0: it can't be done
+    std::string error;
+};
+
+/**
+ * Tries to listen, on a free port when @p port is 0. The ORB can do that itself, but does not say
+ * why it failed, and keeps a port that it was not told for itself: after a sudden end the port
+ * could not be taken again as long as the system remembers its connections.
+ */
+Listening tryListening(const std::string &host, unsigned short port)
 {
     addrinfo hints = {};
     hints.ai_socktype = SOCK_STREAM;
@@ -35,17 +45,21 @@ std::string bindError(const std::string &host, unsigned short port)
     addrinfo *found = nullptr;
     const int code = ::getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found);
     if (code != 0) {
-        return ::gai_strerror(code);
+        return {0, ::gai_strerror(code)};
     }
     const std::unique_ptr<addrinfo, void (*)(addrinfo *)> address(found, ::freeaddrinfo);
     const UniqueFd fd(::socket(address->ai_family, SOCK_STREAM | SOCK_CLOEXEC, 0));
     const int yes = 1;
     ::setsockopt(fd.get(), SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-    if (::bind(fd.get(), address->ai_addr, address->ai_addrlen) == 0
-        && ::listen(fd.get(), 1) == 0) {
-        return "the ORB can not listen";
+    if (::bind(fd.get(), address->ai_addr, address->ai_addrlen) != 0
+        || ::listen(fd.get(), 1) != 0) {
+        return {0, std::strerror(errno)};
     }
-    return std::strerror(errno);
+    sockaddr_storage bound = {};
+    socklen_t size = sizeof bound;
+    ::getsockname(fd.get(), reinterpret_cast<sockaddr *>(&bound), &size);
+    // The port is at the same place in both families' addresses.
+    return {ntohs(reinterpret_cast<const sockaddr_in *>(&bound)->sin_port), {}};
 }
 
 IIOP::ProfileBody profileOf(CORBA::Object_ptr object)
@@ -116,9 +130,8 @@ bool ControllerServer::initialize(int &argc, char **argv, const std::string &hos
                                   unsigned short port)
 {
     m_host = host;
-    m_port = port;
-    const std::string endPoint =
-        "giop:tcp:" + inBrackets(host) + ':' + (port == 0 ? "" : std::to_string(port));
+    m_port = port == 0 ? tryListening(host, 0).port : port;
+    const std::string endPoint = "giop:tcp:" + inBrackets(host) + ':' + std::to_string(m_port);
     const char *options[][2] = {
         {"endPoint", endPoint.c_str()},
         {"acceptBiDirectionalGIOP", "1"},
@@ -183,8 +196,9 @@ bool ControllerServer::serve(PortableServer::Servant servant, const std::string 
         manager->activate();
         return true;
     } catch (const CORBA::INITIALIZE &) {
+        const std::string reason = tryListening(m_host, m_port).error;
         m_error = "can not listen on " + inBrackets(m_host) + ':' + std::to_string(m_port) + ": "
-            + bindError(m_host, m_port);
+            + (reason.empty() ? "the ORB can not" : reason);
     } catch (const CORBA::Exception &exception) {
         m_error = std::string("the ORB does not start (") + exception._name() + ')';
     }

@@ -4,7 +4,6 @@
 
 #include <cstring>
 
-#include <fcntl.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
@@ -51,12 +50,6 @@ void keepAlive(int socket)
     set(IPPROTO_TCP, TCP_KEEPCNT, 3);
 }
 
-SharedSocket duplicate(int socket)
-{
-    const int copy = ::fcntl(socket, F_DUPFD_CLOEXEC, 0);
-    return copy < 0 ? nullptr : std::make_shared<const SocketHandle>(copy);
-}
-
 CORBA::Boolean openConnection(omni::omniInterceptors::clientOpenConnection_T::info_T &info)
 {
     if (t_bound) {
@@ -75,7 +68,7 @@ CORBA::Boolean sendRequest(omni::omniInterceptors::clientSendRequest_T::info_T &
 {
     const char *connection = info.myaddress();
     if (t_registration && connection && std::strcmp(info.operation(), "registerApp") == 0) {
-        t_registration->setConnection(connection, duplicate(socketOf(info.giop_c.strand())));
+        t_registration->setConnection(connection, LinkSocket::of(socketOf(info.giop_c.strand())));
     }
     if (t_bound && (!connection || *t_bound != connection)) {
         // Nothing has been sent: marked idle, the stream goes back unused. Otherwise the ORB would

@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-#include "SocketHandle.h"
+#include "LinkSocket.h"
 
 /**
  * Says over which connection a call may go, and who may call this process.
@@ -47,9 +47,9 @@ public:
 
     /** The connection's local address, which names it; empty before registerApp was sent. */
     const QByteArray &connection() const { return m_connection; }
-    /** The socket of that connection; null when it has none that could be watched. */
-    const SharedSocket &socket() const { return m_socket; }
-    void setConnection(const char *address, const SharedSocket &socket)
+    /** The socket of that connection; none when it is not one over TCP. */
+    const std::optional<LinkSocket> &socket() const { return m_socket; }
+    void setConnection(const char *address, const std::optional<LinkSocket> &socket)
     {
         m_connection = address;
         m_socket = socket;
@@ -58,7 +58,7 @@ public:
 private:
     int m_openedConnections = 0;
     QByteArray m_connection;
-    SharedSocket m_socket;
+    std::optional<LinkSocket> m_socket;
 };
 
 } // namespace ConnectionGate

@@ -40,7 +40,8 @@ private:
     QByteArray m_text;
 };
 
-QString describe(const CORBA::SystemException &exception)
+/// @p onLink: the call was bound to a link's connection, which is never replaced.
+QString describe(const CORBA::SystemException &exception, bool onLink)
 {
     const char *minor = exception.NP_minorString();
     const QString detail =
@@ -54,9 +55,9 @@ QString describe(const CORBA::SystemException &exception)
             .arg(detail);
     }
     if (CORBA::TRANSIENT::_downcast(&exception)) {
-        return exception.minor() == omni::TRANSIENT_ConnectFailed
+        return exception.minor() == omni::TRANSIENT_ConnectFailed && !onLink
             ? u"nothing answers at that address (%1)"_s.arg(detail)
-            : u"the connection is gone (%1)"_s.arg(detail);
+            : u"the connection was closed (%1)"_s.arg(detail);
     }
     if (CORBA::OBJECT_NOT_EXIST::_downcast(&exception)) {
         return u"there is no controller at that address (%1)"_s.arg(detail);
@@ -93,12 +94,12 @@ QByteArray addressForTheOrb(const QString &host, int port)
 
 } // namespace
 
-QString FcpAppCORBA::Private::describeCurrentException()
+QString FcpAppCORBA::Private::describeCurrentException(bool onLink)
 {
     try {
         throw;
     } catch (const CORBA::SystemException &exception) {
-        return describe(exception);
+        return describe(exception, onLink);
     } catch (const CORBA::Exception &exception) {
         return u"the call failed (%1)"_s.arg(QString::fromLatin1(exception._name()));
     } catch (const std::exception &exception) {
@@ -157,7 +158,7 @@ std::shared_ptr<FcpLink> FcpAppCORBA::Private::makeLink(const QString &host, int
 {
     const QByteArray address = u"corbaloc:iiop:%1:%2/bidir/FcpApp"_s.arg(host).arg(port).toUtf8();
     qCDebug(lcCorba) << "connecting to" << address.constData();
-    if (host.isEmpty() || port < 1 || port > 65535) {
+    if (host.isEmpty() || !WireConversion::canTravel(host) || port < 1 || port > 65535) {
         throw ConnectFailure(u"%1 is no address of a controller"_s.arg(QString::fromUtf8(address)));
     }
 
@@ -206,7 +207,8 @@ bool FcpAppCORBA::Private::connectTo(const QString &host, int port, bool onlyIfL
         replaceLink(makeLink(host, port));
         return true;
     } catch (...) {
-        setError(u"no link to %1:%2: %3"_s.arg(host).arg(port).arg(describeCurrentException()));
+        setError(
+            u"no link to %1:%2: %3"_s.arg(host).arg(port).arg(describeCurrentException(false)));
         return false;
     }
 }
@@ -226,9 +228,7 @@ void FcpAppCORBA::Private::replaceLink(const std::shared_ptr<FcpLink> &fresh)
         return;
     }
     letGo(replaced);
-    if (replaced->connection() == fresh->connection()) {
-        replaced->leave();
-    } else {
+    if (replaced->connection() != fresh->connection()) {
         replaced->hangUp();
     }
 }

@@ -93,7 +93,7 @@ struct FcpAppCORBA::Private
             signOfLife->note();
             return result;
         } catch (...) {
-            linkFailed(link, describeCurrentException());
+            linkFailed(link, describeCurrentException(true));
             return failure;
         }
     }
@@ -116,8 +116,9 @@ struct FcpAppCORBA::Private
         });
     }
 
-    /// The exception being handled, in words.
-    static QString describeCurrentException();
+    /// The exception being handled, of a call on a link or of one that was to make a link, in
+    /// words.
+    static QString describeCurrentException(bool onLink);
 
     FcpAppCORBA *const q;
     BiDirectionalCORBA *const corba;

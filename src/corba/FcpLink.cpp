@@ -6,36 +6,27 @@
 #include "WireConversion.h"
 
 FcpLink::FcpLink(FcpAppInterfaceCORBA_ptr controller, FcpContentsCORBA_ptr contents,
-                 CORBA::Long clientId, const QByteArray &connection, const SharedSocket &socket,
-                 quint64 serial)
+                 CORBA::Long clientId, const QByteArray &connection,
+                 const std::optional<LinkSocket> &socket, quint64 serial)
     : m_controller(FcpAppInterfaceCORBA::_duplicate(controller))
     , m_contents(FcpContentsCORBA::_duplicate(contents))
     , m_clientId(clientId)
     , m_connection(connection)
-    , m_serial(serial)
     , m_socket(socket)
+    , m_serial(serial)
 {
 }
 
-SharedSocket FcpLink::socket() const
+std::unique_ptr<SocketHandle> FcpLink::openSocket() const
 {
-    const std::lock_guard lock(m_socketMutex);
-    return m_socket;
+    return m_socket ? m_socket->open() : nullptr;
 }
 
-void FcpLink::hangUp()
+void FcpLink::hangUp() const
 {
-    const std::lock_guard lock(m_socketMutex);
     if (m_socket) {
         m_socket->shutDown();
-        m_socket.reset();
     }
-}
-
-void FcpLink::leave()
-{
-    const std::lock_guard lock(m_socketMutex);
-    m_socket.reset();
 }
 
 FileSystemResult FcpLink::openFile(const QString &path, bool write, bool overwrite, long &handle)

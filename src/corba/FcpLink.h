@@ -4,12 +4,11 @@
 #include <QString>
 
 #include <atomic>
-#include <mutex>
 
 #include <FcpContents.hh>
 #include <FcpInterfaces.hh>
 
-#include "SocketHandle.h"
+#include "LinkSocket.h"
 
 /**
  * One link to the controller: its references, and the connection on which this client registered.
@@ -21,8 +20,8 @@ class FcpLink
 {
 public:
     FcpLink(FcpAppInterfaceCORBA_ptr controller, FcpContentsCORBA_ptr contents,
-            CORBA::Long clientId, const QByteArray &connection, const SharedSocket &socket,
-            quint64 serial);
+            CORBA::Long clientId, const QByteArray &connection,
+            const std::optional<LinkSocket> &socket, quint64 serial);
 
     FcpAppInterfaceCORBA_ptr controller() const { return m_controller.in(); }
     CORBA::Long clientId() const { return m_clientId; }
@@ -30,15 +29,13 @@ public:
     const QByteArray &connection() const { return m_connection; }
     quint64 serial() const { return m_serial; }
 
-    /** The socket of the connection, to watch it; null once the link has ended. */
-    SharedSocket socket() const;
+    /** The socket of the connection, to watch it; null when the connection has ended. */
+    std::unique_ptr<SocketHandle> openSocket() const;
     /**
      * Ends the connection: calls on it fail, the controller sees at once that this client is gone,
      * and the ORB can not take it for another link.
      */
-    void hangUp();
-    /** Leaves the connection to the link that has replaced this one. */
-    void leave();
+    void hangUp() const;
 
     /** Whether the caller is the one to unregister: true once. */
     bool takeRegistration() { return m_registered.exchange(false); }
@@ -53,8 +50,7 @@ private:
     const FcpContentsCORBA_var m_contents;
     const CORBA::Long m_clientId;
     const QByteArray m_connection;
+    const std::optional<LinkSocket> m_socket;
     const quint64 m_serial;
     std::atomic<bool> m_registered = true;
-    mutable std::mutex m_socketMutex;
-    SharedSocket m_socket;
 };

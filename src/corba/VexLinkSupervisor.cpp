@@ -58,7 +58,8 @@ struct VexLinkSupervisor::Private
     void restore(Lock &lock);
     void waitForNextAttempt(Lock &lock);
     /// Waits without the lock.
-    Bell::Woken wait(Lock &lock, milliseconds timeOut, const SharedSocket &socket = nullptr);
+    Bell::Woken wait(Lock &lock, milliseconds timeOut, int socket = -1);
+    Bell::Woken waitOnLink(Lock &lock, const FcpLink &link, milliseconds timeOut);
     bool linkIsUp() const;
     bool isCurrent(quint64 aWatch) const { return !quit && watching && watchSerial == aWatch; }
     void post(State state, const QString &reason);
@@ -99,11 +100,10 @@ struct VexLinkSupervisor::Private
     int failedAttempts = 0;
 };
 
-Bell::Woken VexLinkSupervisor::Private::wait(Lock &lock, milliseconds timeOut,
-                                             const SharedSocket &socket)
+Bell::Woken VexLinkSupervisor::Private::wait(Lock &lock, milliseconds timeOut, int socket)
 {
     lock.unlock();
-    const Bell::Woken woken = bell->wait(timeOut, socket ? socket->descriptor() : -1);
+    const Bell::Woken woken = bell->wait(timeOut, socket);
     lock.lock();
     return woken;
 }
@@ -159,11 +159,20 @@ void VexLinkSupervisor::Private::watch(Lock &lock)
         askForSignOfLife(lock);
         return;
     }
-    const SharedSocket socket = hungUpLink == serial ? nullptr : link->socket();
-    if (wait(lock, settings.interval - quiet, socket) == Bell::Woken::HungUp) {
+    if (waitOnLink(lock, *link, settings.interval - quiet) == Bell::Woken::HungUp) {
         hungUpLink = serial;
         askForSignOfLife(lock);
     }
+}
+
+Bell::Woken VexLinkSupervisor::Private::waitOnLink(Lock &lock, const FcpLink &link,
+                                                   milliseconds timeOut)
+{
+    if (hungUpLink == link.serial()) {
+        return wait(lock, timeOut);
+    }
+    const auto socket = link.openSocket();
+    return socket ? wait(lock, timeOut, socket->descriptor()) : Bell::Woken::HungUp;
 }
 
 void VexLinkSupervisor::Private::askForSignOfLife(Lock &lock)
