@@ -65,7 +65,7 @@ bool isDotDot(const char *name)
     return std::strcmp(name, "..") == 0;
 }
 
-/// Calls @p visit with the name of every entry, "." and ".." among them.
+/// Calls @p visit with the name and type of every entry, "." and ".." among them.
 template<typename Visit>
 int readNames(int directory, Visit visit)
 {
@@ -77,7 +77,7 @@ int readNames(int directory, Visit visit)
         }
         for (long at = 0; at < got;) {
             const auto *entry = reinterpret_cast<const dirent64 *>(buffer + at);
-            visit(static_cast<const char *>(entry->d_name));
+            visit(static_cast<const char *>(entry->d_name), entry->d_type);
             at += entry->d_reclen;
         }
     }
@@ -108,9 +108,9 @@ public:
             error != 0) {
             return error;
         }
-        return readNames(m_directory.get(), [&](const char *name) {
+        return readNames(m_directory.get(), [&](const char *name, unsigned char type) {
             if ((!m_path.empty() || isDot(name) || isDotDot(name) || Storage::normalised(name))
-                && !isExcludedByName(name)) {
+                && !isExcludedByName(name) && !isExcludedByType(type)) {
                 add(name, entries);
             }
         });
@@ -126,6 +126,13 @@ private:
             return m_filters & QDir::NoDotDot;
         }
         return name[0] == '.' && !(m_filters & QDir::Hidden);
+    }
+
+    /// What is known without looking at the entry itself, which takes most of the time.
+    bool isExcludedByType(unsigned char type) const
+    {
+        return (type == DT_REG && !(m_filters & QDir::Files))
+            || (type == DT_DIR && !(m_filters & (QDir::Dirs | QDir::AllDirs)));
     }
 
     void add(const char *name, std::vector<Entry> &entries) const
@@ -221,8 +228,9 @@ private:
         }
         int count = 0;
         if (directory) {
-            readNames(directory.get(),
-                      [&](const char *entry) { count += isDot(entry) || isDotDot(entry) ? 0 : 1; });
+            readNames(directory.get(), [&](const char *entry, unsigned char) {
+                count += isDot(entry) || isDotDot(entry) ? 0 : 1;
+            });
         }
         return count;
     }
