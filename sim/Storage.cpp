@@ -49,7 +49,7 @@ std::string nameOf(const std::string &path)
 }
 
 /// What openat2() does but for links: one component after the other, links refused.
-int openByComponent(int root, const std::string &path, int flags, UniqueFd &fd)
+int openByComponent(int root, std::string_view path, int flags, UniqueFd &fd)
 {
     UniqueFd directory;
     int at = root;
@@ -87,14 +87,15 @@ int Storage::open(const std::string &root)
     if (!m_root) {
         return errno;
     }
-    for (const std::string_view storageRoot : StorageRoots) {
-        const std::string name(storageRoot);
+    for (size_t i = 0; i < m_storageRoots.size(); ++i) {
+        const std::string name(StorageRoots[i]);
         if (::mkdirat(m_root.get(), name.c_str(), 0755) != 0 && errno != EEXIST) {
             return errno;
         }
-        UniqueFd fd;
-        if (const int error = openAt(name, O_RDONLY | O_DIRECTORY, fd); error != 0) {
-            return error;
+        m_storageRoots[i] = UniqueFd(
+            ::openat(m_root.get(), name.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        if (!m_storageRoots[i]) {
+            return errno;
         }
     }
     return 0;
@@ -130,14 +131,22 @@ bool Storage::isName(std::string_view name)
 
 int Storage::openAt(const std::string &path, int flags, UniqueFd &fd) const
 {
+    if (path.empty()) {
+        fd = UniqueFd(::openat(m_root.get(), ".", flags | O_CLOEXEC));
+        return fd ? 0 : errno;
+    }
+    const size_t slash = path.find('/');
+    const bool isFirst = std::string_view(path).substr(0, slash) == StorageRoots[0];
+    const int storageRoot = m_storageRoots[isFirst ? 0 : 1].get();
+    const char *inner = slash == path.npos ? "." : path.c_str() + slash + 1;
+
     static std::atomic<bool> hasOpenat2 = true;
     while (hasOpenat2) {
         open_how how = {};
         how.flags = static_cast<unsigned>(flags | O_CLOEXEC);
         how.resolve = RESOLVE_BENEATH | RESOLVE_NO_MAGICLINKS;
-        const char *name = path.empty() ? "." : path.c_str();
         fd = UniqueFd(
-            static_cast<int>(::syscall(SYS_openat2, m_root.get(), name, &how, sizeof how)));
+            static_cast<int>(::syscall(SYS_openat2, storageRoot, inner, &how, sizeof how)));
         if (fd) {
             return 0;
         }
@@ -148,7 +157,7 @@ int Storage::openAt(const std::string &path, int flags, UniqueFd &fd) const
             return errno;
         }
     }
-    return openByComponent(m_root.get(), path, flags, fd);
+    return openByComponent(storageRoot, inner, flags, fd);
 }
 
 int Storage::locate(const std::string &path, Place &place) const

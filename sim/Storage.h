@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,9 +13,9 @@
  * The instrument's storage: a real directory, of which clients see the two storage roots "Internal"
  * and "Remote" as "/Internal" and "/Remote".
  *
- * No path leads out of it, whatever ".." and symbolic links it goes through, also when links are
- * swapped while an operation runs: paths are resolved by the kernel beneath the root's descriptor,
- * and what an operation changes is addressed by a directory's descriptor and one name.
+ * No path leads out of its storage root, whatever symbolic links it goes through, also when links
+ * are swapped while an operation runs: paths are resolved by the kernel beneath the storage root's
+ * descriptor, and what an operation changes is addressed by a directory's descriptor and one name.
  *
  * Names are bytes; nothing is converted. Results are 0 or an errno value. From any thread.
  */
@@ -40,7 +41,10 @@ public:
     /** Whether @p name can be the name of an entry: one component, neither "." nor "..". */
     static bool isName(std::string_view name);
 
-    /** Opens what is at @p path; symbolic links are followed as far as they stay inside. */
+    /**
+     * Opens what is at @p path; symbolic links are followed as far as they stay in their storage
+     * root.
+     */
     int openAt(const std::string &path, int flags, UniqueFd &fd) const;
     /** Opens the directory that holds @p path. EPERM for the root and the storage roots. */
     int locate(const std::string &path, Place &place) const;
@@ -60,6 +64,7 @@ private:
     bool contains(const Place &directory, const UniqueFd &inner) const;
 
     UniqueFd m_root;
+    std::array<UniqueFd, 2> m_storageRoots;
 };
 
 /** Renames without replacing; EEXIST when @p newName is there. */
