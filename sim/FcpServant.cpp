@@ -280,8 +280,10 @@ CORBA::Long FcpServant::requestResources(const ResourceRequestInformationCORBASe
     if (CallContext::current()->mustFail) {
         return call.result(CORBA::Long(-1));
     }
-    const int request = m_parts.rack.request(CallContext::current()->connection->id, keys);
-    if (request >= 0) {
+    const std::uint64_t connection = CallContext::current()->connection->id;
+    // There is no operation to give resources back: a request for nothing does it.
+    const int request = keys.empty() ? 0 : m_parts.rack.request(connection, keys);
+    if (request > 0 || (request == 0 && m_parts.rack.release(connection))) {
         m_parts.clients.sendEvent(RESOURCE_STATUS);
     }
     return call.result(CORBA::Long(request));

@@ -32,10 +32,6 @@ bool Rack::setPresent(int moduleId, bool present)
 int Rack::request(std::uint64_t connection, const std::vector<ResourceKey> &resources)
 {
     const std::lock_guard lock(m_mutex);
-    if (resources.empty()) {
-        releaseLocked(connection);
-        return 0;
-    }
     if (!std::all_of(resources.begin(), resources.end(),
                      [this](const ResourceKey &key) { return exists(key); })) {
         return -1;
@@ -76,7 +72,16 @@ std::vector<Rack::ResourceStatus> Rack::statuses() const
 bool Rack::release(std::uint64_t connection)
 {
     const std::lock_guard lock(m_mutex);
-    return releaseLocked(connection);
+    const auto isTheirs = [&](int request) {
+        return m_requests.at(request).connection == connection;
+    };
+    std::erase_if(m_holders, [&](const auto &item) { return isTheirs(item.second); });
+    const bool any =
+        std::erase_if(m_requests,
+                      [&](const auto &item) { return item.second.connection == connection; })
+        > 0;
+    grant();
+    return any;
 }
 
 bool Rack::exists(const ResourceKey &key) const
@@ -103,20 +108,6 @@ bool Rack::canGrant(const Request &request) const
         return holder == m_holders.end()
             || m_requests.at(holder->second).connection == request.connection;
     });
-}
-
-bool Rack::releaseLocked(std::uint64_t connection)
-{
-    const auto isTheirs = [&](int request) {
-        return m_requests.at(request).connection == connection;
-    };
-    std::erase_if(m_holders, [&](const auto &item) { return isTheirs(item.second); });
-    const bool any =
-        std::erase_if(m_requests,
-                      [&](const auto &item) { return item.second.connection == connection; })
-        > 0;
-    grant();
-    return any;
 }
 
 /// Serves the requests that wait, the oldest first.

@@ -13,9 +13,7 @@
  * The modules that are plugged in, and who holds their resources. From any thread.
  *
  * A request is granted when all its resources are free, or held by the same client already, which
- * then moves them to the new request. Requests are served in the order in which they came. There is
- * no operation to give a resource back, so an empty request gives back all that a client holds, and
- * a client that goes gives back its own.
+ * then moves them to the new request. Requests are served in the order in which they came.
  */
 class Rack
 {
@@ -38,7 +36,7 @@ public:
     /** Plugs a module of the instrument in or out. @return whether that changed anything */
     bool setPresent(int moduleId, bool present);
 
-    /** @return the request's id; 0 for an empty one; -1 when a resource does not exist */
+    /** @return the request's id, from 1; -1 when a resource does not exist */
     int request(std::uint64_t connection, const std::vector<ResourceKey> &resources);
     RequestStatus requestStatus(int request) const;
     std::vector<ResourceStatus> statuses() const;
@@ -55,7 +53,6 @@ private:
 
     bool exists(const ResourceKey &key) const;
     bool canGrant(const Request &request) const;
-    bool releaseLocked(std::uint64_t connection);
     void grant();
 
     const Instrument &m_instrument;
