@@ -177,15 +177,20 @@ private:
 };
 
 /// What a transfer that did not end well has left on the instrument.
-QString leftOnInstrument(TransferRun &run, const QString &path, qint64 total)
+QString leftOnInstrument(TransferRun &run, const Transfer &transfer, qint64 total)
 {
     run.tree().forget();
-    const std::optional<FileSystemItem> item = run.tree().find(path);
-    if (!item) {
-        return u"nothing is left on the instrument"_s;
+    // Some controllers write under a name of their own until the file is closed.
+    for (const QString &name : {transfer.destination + u".part"_s, transfer.destination}) {
+        if (const std::optional<FileSystemItem> item = run.tree().find(name)) {
+            // Without a byte carried it may as well be what was there before.
+            return transfer.size > 0 && item->size < total
+                ? u"%1 is incomplete on the instrument (%2)"_s.arg(printable(name),
+                                                                   ofBytes(item->size, total))
+                : u"%1 has %2 bytes on the instrument"_s.arg(printable(name)).arg(item->size);
+        }
     }
-    return u"%1 is incomplete on the instrument (%2)"_s.arg(printable(path),
-                                                            ofBytes(item->size, total));
+    return u"it is not on the instrument"_s;
 }
 
 Failure whyNotSent(TransferRun &run, const Transfer &transfer, qint64 total)
@@ -196,10 +201,14 @@ Failure whyNotSent(TransferRun &run, const Transfer &transfer, qint64 total)
             u"; "_s + printable(transfer.destination) + u" may be incomplete on the instrument"_s;
         return lost;
     }
-    return fileFailure(
-        transfer.source,
-        u"failed after %1, the instrument refused the rest; %2"_s.arg(
-            ofBytes(transfer.size, total), leftOnInstrument(run, transfer.destination, total)));
+    QString reason = u"the instrument took only "_s + ofBytes(transfer.size, total);
+    if (transfer.size == total) {
+        reason = u"the instrument took all %1 bytes, but could not close the file"_s.arg(total);
+    } else if (transfer.size == 0) {
+        reason = u"the instrument refused to open it, or its first bytes"_s;
+    }
+    return fileFailure(transfer.destination,
+                       reason + u"; "_s + leftOnInstrument(run, transfer, total));
 }
 
 void send(TransferRun &run, Transfer &transfer, const QString &target, const Invocation &invocation)
@@ -214,7 +223,7 @@ void send(TransferRun &run, Transfer &transfer, const QString &target, const Inv
         throw fileFailure(target,
                           u"it exists already on the instrument; --overwrite replaces it"_s);
     case Aborted:
-        throw Interrupted {leftOnInstrument(run, target, local.size())};
+        throw Interrupted {leftOnInstrument(run, transfer, local.size())};
     default:
         throw whyNotSent(run, transfer, local.size());
     }

@@ -359,7 +359,11 @@ void TestFcpctl::closedReaderEndsItSilently()
 
 void TestFcpctl::watchSurvivesARestart()
 {
-    Fcpctl watch(m_simulator.port(), {u"watch"_s, u"--json"_s, u"--interval"_s, u"0.5"_s});
+    SimulatorProcess simulator;
+    simulator.start();
+    simulator.stop();
+    simulator.start(); // on a given port now, which can be taken again as soon as it is free
+    Fcpctl watch(simulator.port(), {u"watch"_s, u"--json"_s, u"--interval"_s, u"0.5"_s});
     watch.start();
     const auto count = [&watch](const QByteArray &word) {
         const QList<QByteArray> lines = watch.output().split('\n');
@@ -371,16 +375,16 @@ void TestFcpctl::watchSurvivesARestart()
         });
     };
     QTRY_COMPARE_WITH_TIMEOUT(count("Connected"), 1, PatienceMs);
-    m_simulator.sendEvents("MODULE_STATUS");
+    simulator.sendEvents("MODULE_STATUS");
     QTRY_COMPARE_WITH_TIMEOUT(count("MODULE_STATUS"), 1, PatienceMs);
 
-    m_simulator.kill();
+    simulator.kill();
     QTRY_VERIFY_WITH_TIMEOUT(count("Lost") > 0, PatienceMs);
-    m_simulator.start();
+    simulator.start();
     QTRY_COMPARE_WITH_TIMEOUT(count("restored"), 1, PatienceMs);
-    m_simulator.sendEvents("MODULE_STATUS");
+    simulator.sendEvents("MODULE_STATUS");
     QTRY_COMPARE_WITH_TIMEOUT(count("MODULE_STATUS"), 2, PatienceMs);
-    m_simulator.order("shutdown 1");
+    simulator.order("shutdown 1");
     QTRY_COMPARE_WITH_TIMEOUT(count("shutdown"), 1, PatienceMs);
 
     watch.signal(SIGINT);

@@ -66,6 +66,8 @@ private Q_SLOTS:
     void refusesTargetsThatAreNoFiles();
     void verifyFindsADifference();
     void shortDeliveryIsAFailure();
+    void tellsWhatTheInstrumentDid_data();
+    void tellsWhatTheInstrumentDid();
     void drawsABarOnATerminal_data();
     void drawsABarOnATerminal();
 
@@ -265,6 +267,55 @@ void TestFcpctlTransfers::shortDeliveryIsAFailure()
     QCOMPARE(get.run(), 1);
     QVERIFY2(get.errors().contains("50 of 100 bytes"), get.errors().constData());
     QVERIFY(!QFile::exists(here(u"short"_s)));
+}
+
+void TestFcpctlTransfers::tellsWhatTheInstrumentDid_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QByteArray>("fault");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("words");
+    const auto row = [](const QString &command, const QByteArray &fault, int code,
+                        const QByteArray &words) {
+        QTest::newRow(qPrintable(command + u' ' + QString::fromLatin1(fault)))
+            << command << fault << code << words;
+    };
+    row(u"put"_s, "openFile:1:error:result", 1, "refused to open it");
+    row(u"put"_s, "pushFileContents:2:error:result", 1,
+        "incomplete on the instrument (131072 of 300000 bytes)");
+    row(u"put"_s, "closeFile:1:error:result", 1, "could not close");
+    row(u"put"_s, "openFile:1:reset", 3, "may be incomplete");
+    row(u"put"_s, "pushFileContents:2:mute", 3, "TIMEOUT");
+    row(u"put"_s, "closeFile:1:close", 3, "may be incomplete");
+    row(u"get"_s, "openFile:1+:error:result", 1, "refused");
+    row(u"get"_s, "pullFileContents:2:error:result", 1, "no more after 131072 of 300000 bytes");
+    row(u"get"_s, "pullFileContents:2:reset-after", 3, "lost");
+    row(u"get"_s, "pullFileContents:3:garbage:length", 3, "TIMEOUT");
+}
+
+void TestFcpctlTransfers::tellsWhatTheInstrumentDid()
+{
+    QFETCH(QString, command);
+    QFETCH(QByteArray, fault);
+    QFETCH(int, code);
+    QFETCH(QByteArray, words);
+
+    const QByteArray contents = patternBytes(300'000);
+    writeFile(here(u"sent"_s), contents);
+    writeFile(there(u"kept"_s), contents);
+    writeFile(here(u"kept"_s), "old");
+    m_simulator.order("fault " + fault);
+    const QStringList operands = command == u"put"_s
+        ? QStringList {here(u"sent"_s), u"/Internal/"_s + QString::fromLatin1(fault)}
+        : QStringList {u"/Internal/kept"_s, here(u"kept"_s)};
+    Fcpctl program(m_simulator.port(),
+                   QStringList {command, u"--overwrite"_s, u"--timeout"_s, u"0.5"_s} + operands);
+    const int ended = program.run();
+    m_simulator.order("faults clear");
+    QVERIFY2(ended == code, program.errors().constData());
+    QVERIFY2(program.errors().contains(words), program.errors().constData());
+    QCOMPARE(readFile(here(u"kept"_s)), QByteArray("old"));
+    QVERIFY(!hasPart());
 }
 
 void TestFcpctlTransfers::drawsABarOnATerminal_data()
