@@ -120,13 +120,17 @@ int tests(const Invocation &invocation)
         Output::json(
             QJsonObject {{u"available"_s, toJson(available)}, {u"running"_s, toJson(running)}});
     } else if (invocation.isSet(u"names"_s)) {
+        QStringList names;
         for (const AvailableTestInformation &test : available) {
-            Output::line(Output::name(test.testName));
+            names += Output::name(test.testName) + u'\n';
         }
+        Output::write(names.join(QString()));
     } else if (invocation.isSet(u"ids"_s)) {
+        QStringList ids;
         for (const RunningTest &test : running) {
-            Output::line(number(test.information.testID));
+            ids += number(test.information.testID) + u'\n';
         }
+        Output::write(ids.join(QString()));
     } else {
         Output::write(toTable(available) + u'\n' + toTable(running));
     }
