@@ -81,7 +81,7 @@ bool RemoteTree::isDirectory(const QString &path)
 
 QString RemoteTree::target(const QString &destination, const QString &name, bool mustBeDirectory)
 {
-    const QString clean = withoutTrailingSlash(destination);
+    QString clean = withoutTrailingSlash(destination);
     if (isDirectory(clean)) {
         return joinPath(clean, name);
     }

@@ -175,7 +175,7 @@ QByteArray TransferRun::verify(const QString &localPath, const QString &remotePa
     m_bar.start(u"verifying "_s + remoteName(remotePath), size);
     const QByteArray remote = remoteChecksum(remotePath);
     m_bar.clear();
-    const QByteArray local = localChecksum(localPath);
+    QByteArray local = localChecksum(localPath);
     if (local != remote) {
         throw fileFailure(remotePath,
                           u"the two files differ: SHA-256 %1 on the instrument, %2 here"_s.arg(

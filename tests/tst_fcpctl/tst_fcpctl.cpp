@@ -217,7 +217,7 @@ void TestFcpctl::printsJson()
         records = {document.object()};
     }
     QVERIFY2(!records.isEmpty(), fcpctl.output().constData());
-    for (const QJsonValue &record : records) {
+    for (const QJsonValueRef &record : records) {
         QCOMPARE(record.toObject().keys(), keys);
     }
 }

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int PatienceMs = 20'000;
 /// So long that a transfer can be stopped in its middle.
-constexpr qint64 Long = 192 * 1024 * 1024;
+constexpr qint64 Long = 192LL * 1024 * 1024;
 
 void writeFile(const QString &path, const QByteArray &contents)
 {
