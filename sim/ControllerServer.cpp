@@ -10,6 +10,7 @@
 
 #include <omniORB4/BiDirPolicy.h>
 #include <omniORB4/callHandle.h>
+#include <omniORB4/internal/giopStream.h>
 #include <omniORB4/omniURI.h>
 
 #include <FcpInterfaces.hh>
@@ -17,6 +18,8 @@
 #include "UniqueFd.h"
 
 namespace {
+
+constexpr CORBA::ULong MessageBufferSize = 256 * 1024;
 
 constexpr char ObjectKey[] = "bidir/FcpApp";
 constexpr char RepositoryId[] = "IDL:FcpAppInterfaceCORBA:1.0";
@@ -152,6 +155,9 @@ bool ControllerServer::initialize(int &argc, char **argv, const std::string &hos
         {"traceLevel", "0"},
         {nullptr, nullptr},
     };
+    // A chunk of a file and its header are read and sent in one piece each.
+    omni::giopStream::bufferSize = MessageBufferSize;
+    omni::giopStream::directSendCutOff = MessageBufferSize;
     omniORB::traceLevel = 0; // its complaints about the options come before it reads them
     std::string words;
     for (int i = 1; i < argc; ++i) {

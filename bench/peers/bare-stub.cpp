@@ -9,6 +9,8 @@
 #include <sstream>
 #include <string>
 
+#include <omniORB4/CORBA.h>
+
 #include <omniORB4/BiDirPolicy.h>
 
 #include <FcpInterfaces.hh>
