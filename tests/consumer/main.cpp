@@ -1,0 +1,16 @@
+#include <QCoreApplication>
+
+#include <corba/BiDirectionalCORBA.h>
+#include <corba/FcpAppCORBA.h>
+#include <files/QvexFileMover.h>
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    BiDirectionalCORBA::initializeInstance();
+    FcpAppCORBA::initializeInstance(BiDirectionalCORBA::instance());
+    const int result = QvexFileMover(FcpAppCORBA::instance()).uploadFile({}, {}, false);
+    delete FcpAppCORBA::instance();
+    BiDirectionalCORBA::deleteInstance();
+    return result == 1 ? 0 : 1; // there is no such file, and no controller
+}
