@@ -212,7 +212,7 @@ bool BiDirectionalCORBA::initializeORB(const QVector<QString> &args)
         qCWarning(lcCorba).noquote() << s_lastError;
         return false;
     }
-    d->upcalls->reset();
+    d->upcalls->expectRun();
     start();
     return true;
 }

@@ -16,42 +16,41 @@ void UpcallQueue::post(AppFcpCORBAImpl *target, Kind kind, int value)
     }
 }
 
+void UpcallQueue::expectRun()
+{
+    const std::lock_guard lock(m_mutex);
+    m_expected = true;
+    m_stopped = false;
+}
+
 void UpcallQueue::run()
 {
     std::vector<Upcall> batch;
     std::unique_lock lock(m_mutex);
-    while (true) {
+    while (!m_stopped) {
         m_changed.wait(lock, [this] { return m_stopped || !m_upcalls.empty(); });
-        const bool stopped = m_stopped;
         batch.swap(m_upcalls);
+        const bool deliver = !m_stopped;
         lock.unlock();
         for (const Upcall &upcall : batch) {
-            if (!stopped && upcall.kind == Kind::Event) {
+            if (deliver && upcall.kind == Kind::Event) {
                 Q_EMIT upcall.target->fcpEventReceived(upcall.value);
-            } else if (!stopped) {
+            } else if (deliver) {
                 Q_EMIT upcall.target->fcpShutDownReceived(upcall.value != 0);
             }
             upcall.target->_remove_ref();
         }
         batch.clear();
-        if (stopped) {
-            return;
-        }
         lock.lock();
     }
+    m_expected = false;
+    m_changed.notify_all();
 }
 
 void UpcallQueue::stop()
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_stopped = true;
-    }
-    m_changed.notify_one();
-}
-
-void UpcallQueue::reset()
-{
-    const std::lock_guard lock(m_mutex);
-    m_stopped = false;
+    std::unique_lock lock(m_mutex);
+    m_stopped = true;
+    m_changed.notify_all();
+    m_changed.wait(lock, [this] { return !m_expected; });
 }

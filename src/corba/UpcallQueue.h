@@ -19,12 +19,12 @@ public:
 
     /** Has @p target emit its signal for the call; keeps a reference to it until then. */
     void post(AppFcpCORBAImpl *target, Kind kind, int value);
+    /** Says that a thread is about to run(). */
+    void expectRun();
     /** Delivers on the calling thread, in the order of the posts, until stop(). */
     void run();
-    /** Ends run(), now or as soon as it is called; what was not delivered is dropped. */
+    /** Ends run() and waits until it has returned; what was not delivered is dropped. */
     void stop();
-    /** Makes the queue usable again after stop(). */
-    void reset();
 
 private:
     struct Upcall
@@ -37,5 +37,6 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::vector<Upcall> m_upcalls;
+    bool m_expected = false; ///< from expectRun() to the end of run()
     bool m_stopped = false;
 };
