@@ -19,7 +19,7 @@ Session::Session(const Address &address)
         words << u"-ORBclientCallTimeOutPeriod"_s << QString::number(address.timeOut->count());
     }
     if (!BiDirectionalCORBA::initializeInstance(words)) {
-        throw Failure {Exit::NoLink, u"cannot start the ORB: "_s + BiDirectionalCORBA::lastError()};
+        throw Failure {Exit::NoLink, printable(BiDirectionalCORBA::lastError())};
     }
     FcpAppCORBA::initializeInstance(BiDirectionalCORBA::instance());
     m_controller = FcpAppCORBA::instance();

@@ -5,6 +5,7 @@
 #include "Text.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 int main(int argc, char *argv[])
 {
@@ -16,6 +17,8 @@ int main(int argc, char *argv[])
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("fcpctl"));
     QCoreApplication::setApplicationVersion(QStringLiteral(FCPCTL_VERSION));
+    // The messages of failures tell the same; QT_LOGGING_RULES brings the log back.
+    QLoggingCategory::setFilterRules(QStringLiteral("vex.*.warning=false"));
     try {
         return runCommandLine(arguments);
     } catch (const Failure &failure) {
