@@ -108,7 +108,8 @@ void TestThreads::eachLostLinkIsReportedOnce()
     });
 
     for (int round = 0; round < rounds; ++round) {
-        QVERIFY2(link.connectTo(m_proxy.port()), qPrintable(u"round %1: %2"_s.arg(round).arg(link->lastError())));
+        QVERIFY2(link.connectTo(m_proxy.port()),
+                 qPrintable(u"round %1: %2"_s.arg(round).arg(link->lastError())));
         QCOMPARE(link->linkSerial(), quint64(round + 1));
         const int before = answers;
         QVERIFY(pollUntil([&] { return answers > before + Callers; }));

@@ -6,6 +6,8 @@
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
+#include "Sockets.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -30,6 +32,9 @@ ControllerProcess::~ControllerProcess()
 
 void ControllerProcess::start()
 {
+    if (m_port == 0) {
+        m_port = localPort(listenOn(0));
+    }
     m_process.start(m_program, m_arguments + QStringList {u"--port"_s, QString::number(m_port)});
     const QByteArray announcement = ": listening on port ";
     QByteArray line;
