@@ -32,13 +32,14 @@ public:
             Result &result = results[run.run_name.function_name];
             if (run.error_occurred) {
                 result.error = run.error_message;
-            } else if (run.aggregate_name == "median") {
+            } else if (run.aggregate_name == "median" || run.repetitions == 1) {
                 for (const auto &[name, counter] : run.counters) {
                     result.medians[name] = counter.value;
                 }
             }
         }
-        if (!runs.empty() && runs.back().run_type == Run::RT_Aggregate) {
+        if (!runs.empty()
+            && (runs.back().run_type == Run::RT_Aggregate || runs.back().repetitions == 1)) {
             std::fprintf(stderr, "  %s: done\n", runs.back().run_name.function_name.c_str());
         }
     }

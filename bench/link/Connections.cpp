@@ -21,14 +21,14 @@ struct EventRun
     int length;
 };
 
-/// Runs of 1 to 16 events of the same kind: a lost or misplaced event shifts all that follow.
+/// Runs of 1 to 400 events of a kind: one that is lost or misplaced shows at the end of its run.
 QVector<EventRun> eventRuns(int count)
 {
     QVector<EventRun> runs;
     unsigned seed = 1;
     for (int kind = 0; count > 0; kind = (kind + 1) % 4) {
         seed = seed * 1103515245U + 12345U;
-        const int length = std::min(count, 1 + static_cast<int>((seed >> 16) % 16));
+        const int length = std::min(count, 1 + static_cast<int>((seed >> 16) % 400));
         runs.append({kind, length});
         count -= length;
     }
@@ -79,12 +79,16 @@ Simulator::Simulator(const QString &root)
 
 void Simulator::sendEvents(int count)
 {
+    const QVector<EventRun> runs = eventRuns(count);
     QByteArray commands;
-    for (const EventRun &run : eventRuns(count)) {
+    for (const EventRun &run : runs) {
         commands += QByteArray("event ") + EventNames[run.kind] + ' '
             + QByteArray::number(run.length) + '\n';
     }
     m_process.tell(commands);
+    for (qsizetype i = 0; i < runs.size(); ++i) {
+        m_process.waitForLine(u"ok event"_s);
+    }
 }
 
 QVector<int> Simulator::eventsOf(int count)

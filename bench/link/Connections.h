@@ -16,7 +16,7 @@ public:
 
     quint16 port() const { return m_port; }
     qint64 id() const { return m_process.id(); }
-    /** Has it send events of the four kinds in runs of different lengths, @p count in all. */
+    /** Has it send @p count events to its clients, and returns when it has begun. */
     void sendEvents(int count);
     /** The kinds that sendEvents() has it send, in their order. */
     static QVector<int> eventsOf(int count);

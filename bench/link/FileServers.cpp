@@ -73,7 +73,7 @@ SshServer::SshServer(const Workbench &workbench)
               u"ListenAddress 127.0.0.1\nPort %1\nHostKey %2/host\n"
               "AuthorizedKeysFile %2/client.pub\nPidFile none\nStrictModes no\nUsePAM no\n"
               "PasswordAuthentication no\nPermitRootLogin prohibit-password\n"
-              "Subsystem sftp internal-sftp\nLogLevel ERROR\n"_s.arg(m_port)
+              "Subsystem sftp internal-sftp\nLogLevel FATAL\n"_s.arg(m_port)
                   .arg(m_directory));
     m_server = std::make_unique<ChildProcess>(
         findProgram(u"sshd"_s),
@@ -157,58 +157,45 @@ double RsyncServer::download(const QString &remotePath, const QString &localPath
 
 QString FtpServer::absence()
 {
-    return missingOf({u"vsftpd"_s, u"curl"_s});
+    return missingOf({u"vsftpd"_s, u"python3"_s});
 }
 
 FtpServer::FtpServer(const Workbench &workbench)
-    : m_directory(makeDirectory(workbench.scratch(u"ftp"_s)))
-    , m_port(freePort())
+    : m_port(freePort())
 {
-    makeDirectory(m_directory + u"/empty"_s);
-    writeFile(m_directory + u"/vsftpd.conf"_s,
+    const QString directory = makeDirectory(workbench.scratch(u"ftp"_s));
+    makeDirectory(directory + u"/empty"_s);
+    writeFile(directory + u"/vsftpd.conf"_s,
               u"listen=YES\nlisten_address=127.0.0.1\nlisten_port=%1\nbackground=NO\n"
               "run_as_launching_user=YES\nsecure_chroot_dir=%2/empty\nseccomp_sandbox=NO\n"
               "anonymous_enable=YES\nno_anon_password=YES\nanon_root=%3\nwrite_enable=YES\n"
-              "anon_upload_enable=YES\nanon_mkdir_write_enable=YES\n"
-              "anon_other_write_enable=YES\nanon_world_readable_only=NO\nanon_umask=022\n"
-              "xferlog_enable=NO\n"_s.arg(m_port)
-                  .arg(m_directory, workbench.serverRoot()));
+              "anon_upload_enable=YES\nanon_other_write_enable=YES\n"
+              "anon_world_readable_only=NO\nanon_umask=022\nxferlog_enable=NO\n"_s.arg(m_port)
+                  .arg(directory, workbench.serverRoot()));
     m_server = std::make_unique<ChildProcess>(findProgram(u"vsftpd"_s),
-                                              QStringList {m_directory + u"/vsftpd.conf"_s});
+                                              QStringList {directory + u"/vsftpd.conf"_s});
     m_server->waitForPort(m_port);
+    m_client = std::make_unique<ChildProcess>(
+        findProgram(u"python3"_s),
+        QStringList {besideThisProgram(u"bench-ftp-client.py"_s), QString::number(m_port)});
 }
 
-QString FtpServer::url(const QString &path) const
+double FtpServer::ask(const QStringList &words) const
 {
-    return u"ftp://127.0.0.1:%1/%2"_s.arg(m_port).arg(path);
-}
-
-double FtpServer::curl(const QString &list) const
-{
-    const QString path = m_directory + u"/list"_s;
-    writeFile(path, list);
-    return secondsToRun(findProgram(u"curl"_s),
-                        {u"--silent"_s, u"--show-error"_s, u"--fail"_s, u"--config"_s, path});
-}
-
-double FtpServer::upload(const QStringList &names, const QString &localDirectory,
-                         const QString &remoteDirectory) const
-{
-    QString list;
-    for (const QString &name : names) {
-        list += u"upload-file = \"%1/%3\"\nurl = \"%2/%3\"\n"_s.arg(localDirectory,
-                                                                    url(remoteDirectory), name);
+    bool isNumber = false;
+    const double seconds = m_client->ask(words.join(u'\t')).toDouble(&isNumber);
+    if (!isNumber) {
+        throw std::runtime_error("the FTP client failed");
     }
-    return curl(list);
+    return seconds;
 }
 
-double FtpServer::download(const QStringList &names, const QString &remoteDirectory,
-                           const QString &localDirectory) const
+double FtpServer::upload(const QString &localDirectory, const QString &remoteDirectory) const
 {
-    QString list;
-    for (const QString &name : names) {
-        list += u"url = \"%1/%3\"\noutput = \"%2/%3\"\n"_s.arg(url(remoteDirectory), localDirectory,
-                                                               name);
-    }
-    return curl(list);
+    return ask({u"upload"_s, localDirectory, remoteDirectory});
+}
+
+double FtpServer::download(const QString &remoteDirectory, const QString &localDirectory) const
+{
+    return ask({u"download"_s, localDirectory, remoteDirectory});
 }

@@ -13,8 +13,8 @@ class Workbench;
  * @file
  * The usual ways to carry files, each with a server of its own on a port of the loopback
  * interface, its settings, keys and logs in the workbench's directory. Nothing of the system is
- * started or changed. The functions return the seconds of one run of the client, its start and its
- * connecting included, and throw std::runtime_error when something fails.
+ * started or changed. The functions return the seconds of one run of the client and throw
+ * std::runtime_error when something fails.
  */
 
 /** OpenSSH's sshd, with sftp and scp. The clients share one connection, made beforehand. */
@@ -57,24 +57,21 @@ private:
     std::unique_ptr<ChildProcess> m_server;
 };
 
-/** vsftpd, used with curl, which carries all files over one control connection. */
+/** vsftpd, used over one control connection by the FTP client of Python's library. */
 class FtpServer
 {
 public:
     explicit FtpServer(const Workbench &workbench);
 
     static QString absence();
-    /** The directories are a local one and one below the server directory. */
-    double upload(const QStringList &names, const QString &localDirectory,
-                  const QString &remoteDirectory) const;
-    double download(const QStringList &names, const QString &remoteDirectory,
-                    const QString &localDirectory) const;
+    /** Carries all files of a directory; the remote one is below the server directory. */
+    double upload(const QString &localDirectory, const QString &remoteDirectory) const;
+    double download(const QString &remoteDirectory, const QString &localDirectory) const;
 
 private:
-    double curl(const QString &list) const;
-    QString url(const QString &path) const;
+    double ask(const QStringList &words) const;
 
-    const QString m_directory;
     const quint16 m_port;
     std::unique_ptr<ChildProcess> m_server;
+    std::unique_ptr<ChildProcess> m_client;
 };

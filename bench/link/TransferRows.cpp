@@ -183,8 +183,8 @@ void addSmallRow(Suite &suite, const LinkBench &bench, const std::shared_ptr<Riv
         });
     };
     const auto ftp = [=] {
-        return upload ? rivals->ftp().upload(names, source, u"Internal/"_s + Carried)
-                      : rivals->ftp().download(names, u"Internal/"_s + directory, target);
+        return upload ? rivals->ftp().upload(source, u"Internal/"_s + Carried)
+                      : rivals->ftp().download(u"Internal/"_s + directory, target);
     };
     const auto sftp = [=] {
         return rivals->ssh().sftp(

@@ -127,7 +127,7 @@ QStringList Workbench::smallNames() const
 {
     QStringList names;
     for (int i = 0; i < m_smallCount; ++i) {
-        names.append(u"%1.dat"_s.arg(i, 6, 10, QChar(u'0')));
+        names.append(u"%1.dat"_s.arg(i, 6, 10, QLatin1Char('0')));
     }
     return names;
 }
@@ -156,7 +156,10 @@ void Workbench::makeSmallFiles() const
 void Workbench::makeListedDirectory() const
 {
     for (int i = 0; i < m_listedCount; ++i) {
-        write(there(u"%1/measurement-%2.dat"_s.arg(listedDirectory()).arg(i, 6, 10, QChar(u'0'))), {}, 0);
+        write(
+            there(
+                u"%1/measurement-%2.dat"_s.arg(listedDirectory()).arg(i, 6, 10, QLatin1Char('0'))),
+            {}, 0);
     }
 }
 
