@@ -3,6 +3,9 @@
 #include <QCryptographicHash>
 #include <QMutexLocker>
 
+#include <omniORB4/callHandle.h>
+#include <omniORB4/giopEndpoint.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -295,22 +298,43 @@ FileSystemResult FakeServant::closeFile(CORBA::Long handle)
     return m_script.play("closeFile", {qint64(handle)}).fileResult();
 }
 
-FileSystemResult FakeServant::pushFileContents(CORBA::Long handle, const CharSequence &bytes)
+CORBA::Boolean FakeServant::_dispatch(omniCallHandle &handle)
 {
-    const QByteArrayView content(bytes.get_buffer(), qsizetype(bytes.length()));
-    const QByteArray hash =
-        QCryptographicHash::hash(content.toByteArray(), QCryptographicHash::Sha256);
-    return m_script
-        .play("pushFileContents",
-              {qint64(handle), qint64(bytes.length()), QString::fromLatin1(hash.toHex())})
-        .fileResult();
+    Script::noteConnection(QString::fromLatin1(handle.connection()->peeraddress()));
+    const QByteArrayView operation(handle.operation_name());
+    if (operation == "pushFileContents" || operation == "pullFileContents") {
+        return m_contents._dispatch(handle);
+    }
+    return POA_FcpAppInterfaceCORBA::_dispatch(handle);
 }
 
-FileSystemResult FakeServant::pullFileContents(CORBA::Long handle, CORBA::Long wanted,
-                                               CharSequence_out bytes)
+FileSystemResult FakeServant::pushFileContents(CORBA::Long, const CharSequence &)
+{
+    throw CORBA::NO_IMPLEMENT();
+}
+
+FileSystemResult FakeServant::pullFileContents(CORBA::Long, CORBA::Long, CharSequence_out)
+{
+    throw CORBA::NO_IMPLEMENT();
+}
+
+FileSystemResult FakeContents::pushFileContents(CORBA::Long handle, const OctetSequence &bytes)
+{
+    m_pushedBytes += bytes.length();
+    const auto arguments = [&]() -> QJsonArray {
+        const auto *data = reinterpret_cast<const char *>(bytes.get_buffer());
+        QCryptographicHash hash(QCryptographicHash::Sha256);
+        hash.addData(QByteArrayView(data, qsizetype(bytes.length())));
+        return {qint64(handle), qint64(bytes.length()), QString::fromLatin1(hash.result().toHex())};
+    };
+    return m_script.playLazily("pushFileContents", arguments).fileResult();
+}
+
+FileSystemResult FakeContents::pullFileContents(CORBA::Long handle, CORBA::Long wanted,
+                                                OctetSequence_out bytes)
 {
     const Answer answer = m_script.play("pullFileContents", {qint64(handle), qint64(wanted)});
-    bytes = new CharSequence;
+    bytes = new OctetSequence;
     answer.fill("bytes", *bytes.ptr());
     return answer.fileResult();
 }

@@ -3,9 +3,32 @@
 #include <QHash>
 #include <QMutex>
 
+#include <atomic>
+
+#include <FcpContents.hh>
 #include <FcpInterfaces.hh>
 
 #include "Script.h"
+
+/** Serves the two operations that carry contents, whose bytes it takes as one block. */
+class FakeContents : public POA_FcpContentsCORBA
+{
+public:
+    explicit FakeContents(Script &script)
+        : m_script(script)
+    {
+    }
+
+    FileSystemResult pushFileContents(CORBA::Long handle, const OctetSequence &bytes) override;
+    FileSystemResult pullFileContents(CORBA::Long handle, CORBA::Long wanted,
+                                      OctetSequence_out bytes) override;
+
+    qint64 pushedBytes() const { return m_pushedBytes; }
+
+private:
+    Script &m_script;
+    std::atomic<qint64> m_pushedBytes = 0;
+};
 
 /** Serves the controller's interface with the answers of a script. */
 class FakeServant : public POA_FcpAppInterfaceCORBA
@@ -13,8 +36,12 @@ class FakeServant : public POA_FcpAppInterfaceCORBA
 public:
     explicit FakeServant(Script &script)
         : m_script(script)
+        , m_contents(script)
     {
     }
+
+    CORBA::Boolean _dispatch(omniCallHandle &handle) override;
+    const FakeContents &contents() const { return m_contents; }
 
     /** Calls Event on every client; @return how many calls failed. */
     int sendEvents(AppFcpEvent event, int count);
@@ -62,6 +89,7 @@ private:
     int callClients(Call &&call);
 
     Script &m_script;
+    FakeContents m_contents;
     QMutex m_mutex;
     QHash<CORBA::Long, AppFcpInterfaceCORBA_var> m_clients;
 };

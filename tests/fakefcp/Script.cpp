@@ -4,16 +4,6 @@
 #include <QMutexLocker>
 #include <QThread>
 
-// The ORB's headers rely on this order.
-// clang-format off
-#include <omniORB4/minorCode.h>
-#include <omniORB4/omniInterceptors.h>
-#include <omniORB4/giopEndpoint.h>
-#include <omniORB4/internal/giopStream.h>
-#include <omniORB4/internal/giopStrand.h>
-#include <omniORB4/internal/GIOP_S.h>
-// clang-format on
-
 #include "support/Pattern.h"
 
 using namespace Qt::StringLiterals;
@@ -21,12 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 thread_local QString t_connection;
-
-CORBA::Boolean noteConnection(omni::omniInterceptors::serverReceiveRequest_T::info_T &info)
-{
-    t_connection = QString::fromLatin1(info.giop_s.strand().connection->peeraddress());
-    return true;
-}
 
 void raise(const QString &name)
 {
@@ -46,11 +30,6 @@ void raise(const QString &name)
 }
 
 } // namespace
-
-void installConnectionProbe()
-{
-    omniORB::getInterceptors()->serverReceiveRequest.add(noteConnection);
-}
 
 CORBA::Long Answer::number(const char *name) const
 {
@@ -83,13 +62,6 @@ char *Answer::text(const char *name) const
     return CORBA::string_dup(bytes(name).constData());
 }
 
-void Answer::fill(const char *name, CharSequence &sequence) const
-{
-    const QByteArray content = bytes(name);
-    sequence.length(CORBA::ULong(content.size()));
-    std::copy(content.cbegin(), content.cend(), sequence.get_buffer());
-}
-
 QVector<Answer> Answer::list(const char *name) const
 {
     QVector<Answer> result;
@@ -105,6 +77,11 @@ Script::Script(const QString &logFile)
     if (!m_log.open(QIODevice::Append)) {
         qFatal("Can not write %s", qPrintable(logFile));
     }
+}
+
+void Script::noteConnection(const QString &connection)
+{
+    t_connection = connection;
 }
 
 void Script::setAnswers(const QJsonObject &command)
@@ -126,15 +103,22 @@ QJsonObject Script::nextAnswer(const QString &operation)
 
 Answer Script::play(const char *operation, const QJsonArray &arguments)
 {
+    return playLazily(operation, [&] { return arguments; });
+}
+
+Answer Script::playLazily(const char *operation, const std::function<QJsonArray()> &arguments)
+{
     QJsonObject answer;
     {
         const QMutexLocker lock(&m_mutex);
-        const QJsonObject call {{u"call"_s, QLatin1String(operation)},
-                                {u"args"_s, arguments},
-                                {u"connection"_s, t_connection}};
-        m_log.write(QJsonDocument(call).toJson(QJsonDocument::Compact) + '\n');
-        m_log.flush();
         answer = nextAnswer(QLatin1String(operation));
+        if (!answer.value("quiet"_L1).toBool()) {
+            const QJsonObject call {{u"call"_s, QLatin1String(operation)},
+                                    {u"args"_s, arguments()},
+                                    {u"connection"_s, t_connection}};
+            m_log.write(QJsonDocument(call).toJson(QJsonDocument::Compact) + '\n');
+            m_log.flush();
+        }
     }
     QThread::msleep(ulong(answer.value("delay"_L1).toInteger()));
     if (answer.contains("raise"_L1)) {

@@ -6,6 +6,9 @@
 #include <QJsonObject>
 #include <QMutex>
 
+#include <algorithm>
+#include <functional>
+
 #include <FcpInterfaces.hh>
 
 /**
@@ -24,7 +27,14 @@ public:
     CORBA::LongLong longNumber(const char *name) const;
     bool flag(const char *name = "result") const;
     char *text(const char *name = "result") const;
-    void fill(const char *name, CharSequence &bytes) const;
+    /** Fills a sequence of char or octet. */
+    template<typename Sequence>
+    void fill(const char *name, Sequence &sequence) const
+    {
+        const QByteArray content = bytes(name);
+        sequence.length(CORBA::ULong(content.size()));
+        std::copy(content.cbegin(), content.cend(), sequence.get_buffer());
+    }
     FileSystemResult fileResult() const { return FileSystemResult(number()); }
     bool has(const char *name) const { return m_json.contains(QLatin1String(name)); }
     /** The entries of the array @p name, each an answer in itself. */
@@ -42,14 +52,19 @@ class Script
 public:
     explicit Script(const QString &logFile);
 
+    /** The connection that this thread's calls come on from now on. */
+    static void noteConnection(const QString &connection);
+
     /** {"operation": name, "answers": [...]}: given one after another, the last one for good. */
     void setAnswers(const QJsonObject &command);
 
     /**
-     * Logs the call and gives its answer, after the answer's "delay" in milliseconds. Raises the
-     * system exception that the answer's "raise" names.
+     * Logs the call, unless the answer is "quiet", and gives its answer, after the answer's "delay"
+     * in milliseconds. Raises the system exception that the answer's "raise" names.
      */
     Answer play(const char *operation, const QJsonArray &arguments);
+    /** Likewise, for arguments that are costly to describe. */
+    Answer playLazily(const char *operation, const std::function<QJsonArray()> &arguments);
 
 private:
     QJsonObject nextAnswer(const QString &operation);
@@ -58,6 +73,3 @@ private:
     QFile m_log;
     QHash<QString, QJsonArray> m_answers;
 };
-
-/** Has the calls that this thread serves logged with the connection that they came on. */
-void installConnectionProbe();

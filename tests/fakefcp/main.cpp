@@ -4,7 +4,7 @@
  *   fakefcp --log FILE --port N [--publish HOST:PORT]
  *
  * Commands on standard input, each answered by a line: `answer JSON`, `event NAME [count]`,
- * `shutdown 0|1`. Every call is logged to FILE as a line of JSON when it comes in.
+ * `shutdown 0|1`, `pushed`. Every call is logged to FILE as a line of JSON when it comes in.
  */
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -115,6 +115,9 @@ std::string obey(Script &script, FakeServant &servant, const QByteArray &line)
         const int failures = servant.sendShutDown(words.value(1) == "1");
         return "ok, " + std::to_string(failures) + " failed";
     }
+    if (words.first() == "pushed") {
+        return "ok, " + std::to_string(servant.contents().pushedBytes()) + " bytes";
+    }
     return "error: unknown command";
 }
 
@@ -134,7 +137,6 @@ int main(int argc, char **argv)
     Script script(parser.value(u"log"_s));
     auto *servant = new FakeServant(script);
     CORBA::ORB_var orb = makeOrb(port, parser.value(u"publish"_s));
-    installConnectionProbe();
     publishServant(orb, servant);
     std::cout << "fakefcp: listening on port " << port << std::endl;
 

@@ -1,6 +1,8 @@
 #include "SimulatorProcess.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -53,14 +55,14 @@ QVector<SimulatorProcess::Call> SimulatorProcess::calls(const QByteArray &operat
     return result;
 }
 
-QByteArrayList SimulatorProcess::openHandles() const
+QStringList SimulatorProcess::openFiles() const
 {
-    QByteArrayList open;
-    for (const Call &call : calls()) {
-        if (call.operation == "openFile" && call.result.startsWith("FS_OK ")) {
-            open.append(call.result.sliced(6));
-        } else if (call.operation == "closeFile") {
-            open.removeOne(call.arguments);
+    QStringList open;
+    const QDir descriptors(u"/proc/%1/fd"_s.arg(processId()));
+    for (const QFileInfo &entry : descriptors.entryInfoList(QDir::Files | QDir::System)) {
+        const QString target = entry.symLinkTarget();
+        if (target.startsWith(root() + u'/') && !QFileInfo(target).isDir()) {
+            open.append(target.sliced(root().size()));
         }
     }
     return open;

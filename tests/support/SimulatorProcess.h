@@ -28,8 +28,8 @@ public:
 
     QVector<Call> calls() const;
     QVector<Call> calls(const QByteArray &operation) const;
-    /** The handles that were given by openFile() and not taken back by closeFile(). */
-    QByteArrayList openHandles() const;
+    /** The files on the instrument that it has open now. */
+    QStringList openFiles() const;
 
 private:
     QString logFile() const { return m_directory.filePath(QStringLiteral("calls.log")); }
