@@ -101,6 +101,7 @@ void FcpAppCORBA::communicationError()
         ended = std::exchange(d->m_link, nullptr);
     }
     if (ended) {
+        ++d->lossCount;
         ended->hangUp();
     }
     Q_EMIT disconnectCatched(-1);

@@ -255,6 +255,7 @@ void FcpAppCORBA::Private::linkFailed(const std::shared_ptr<FcpLink> &failed, co
             return; // somebody else reported it, or it was replaced meanwhile
         }
         m_link.reset();
+        ++lossCount;
         m_lastError = u"the link to %1 is lost: %2"_s.arg(m_host, reason);
         qCDebug(lcCorba).noquote() << m_lastError;
     }

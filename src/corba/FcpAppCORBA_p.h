@@ -137,6 +137,7 @@ struct FcpAppCORBA::Private
     QString m_lastError;
 
     std::atomic<quint64> linkCount = 0;
+    std::atomic<quint64> lossCount = 0; ///< links that were lost, not replaced
     /// Shared with the connection to the callback object, whose signal the ORB thread may be
     /// emitting while the proxy goes.
     const std::shared_ptr<SignOfLife> signOfLife = std::make_shared<SignOfLife>();

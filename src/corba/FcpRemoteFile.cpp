@@ -72,8 +72,13 @@ FileSystemResult FcpRemoteFile::pull(long wanted, long &got, char *buffer)
 
 FileSystemResult FcpRemoteFile::close()
 {
-    const FileSystemResult result =
-        d->call([this](FcpLink &link) { return link.closeFile(d->handle); });
+    // Also on a link that was replaced: as long as its connection lives, the controller keeps the
+    // file open for it.
+    FileSystemResult result = FS_ERROR;
+    if (d->link && (d->proxy->currentLink() == d->link || d->link->openSocket())) {
+        result = d->proxy->callOn(d->link, FS_ERROR,
+                                  [this](FcpLink &link) { return link.closeFile(d->handle); });
+    }
     d->link.reset();
     return result;
 }

@@ -95,6 +95,7 @@ struct VexLinkSupervisor::Private
     // Of the worker, for the watch under way
     quint64 seenWatch = 0;
     quint64 seenLink = 0; ///< the link that was reported as Connected; 0: none yet
+    quint64 seenLosses = 0; ///< of the proxy, when that was reported
     bool lossReported = false;
     quint64 hungUpLink = 0; ///< the link whose peer closed the connection; told once
     int failedAttempts = 0;
@@ -144,13 +145,15 @@ void VexLinkSupervisor::Private::watch(Lock &lock)
     }
     const quint64 serial = link->serial();
     if (serial != seenLink) {
-        const bool wasLost = seenLink != 0 || lossReported;
+        const quint64 losses = controller->d->lossCount;
+        const bool wasLost = seenLink != 0 && losses != seenLosses;
         seenLink = serial;
+        seenLosses = losses;
+        lossReported = false;
         failedAttempts = 0;
         post(State::Connected,
              tr("registered with %1:%2 as client %3").arg(host).arg(port).arg(link->clientId()));
         if (wasLost) {
-            lossReported = false;
             postRestored();
         }
     }
