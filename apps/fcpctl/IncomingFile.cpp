@@ -62,10 +62,10 @@ void removeAbandonedPart(const QByteArray &directory)
     ::close(descriptor);
 }
 
-/// Syncs what @p path names to the disk. @return 0 or an errno value.
-int sync(const QByteArray &path, int flags, std::optional<mode_t> mode = {})
+/// Gives @p path its mode and syncs it to the disk. @return 0 or an errno value
+int finish(const QByteArray &path, std::optional<mode_t> mode)
 {
-    const int descriptor = ::open(path.constData(), flags | O_RDONLY | O_CLOEXEC);
+    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
     if (descriptor == -1) {
         return errno;
     }
@@ -130,7 +130,7 @@ int IncomingFile::whyNotWritable(qint64 more) const
 
 void IncomingFile::commit()
 {
-    if (const int error = sync(m_partDirectory + PartName, 0, m_mode)) {
+    if (const int error = finish(m_partDirectory + PartName, m_mode)) {
         throw fileFailure(m_shownTarget, qt_error_string(error));
     }
     rename();
@@ -153,11 +153,16 @@ void IncomingFile::removeAbandoned(const QString &directory)
 
 void IncomingFile::syncDirectory(const QString &directory)
 {
-    if (const int error = sync(toShell(directory), O_DIRECTORY)) {
-        // Some file systems can't sync a directory at all.
-        if (error != EINVAL) {
-            throw fileFailure(directory, qt_error_string(error));
-        }
+    // One that can't be opened, or is on a file system that does not know how, is left alone.
+    const int descriptor =
+        ::open(toShell(directory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor == -1) {
+        return;
+    }
+    const int error = ::fsync(descriptor) == 0 || errno == EINVAL ? 0 : errno;
+    ::close(descriptor);
+    if (error != 0) {
+        throw fileFailure(directory, qt_error_string(error));
     }
 }
 

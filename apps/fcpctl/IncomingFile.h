@@ -34,7 +34,8 @@ public:
 
     /// Removes what killed processes left behind in @p directory.
     static void removeAbandoned(const QString &directory);
-    /// Makes the names that were given in @p directory safe on the disk.
+    /// Makes the names that were given in @p directory safe on the disk, as far as that can be
+    /// done.
     static void syncDirectory(const QString &directory);
 
 private:

@@ -239,6 +239,7 @@ void TestFcpctlTransfers::refusesTargetsThatAreNoFiles()
     Fcpctl get(m_simulator.port(), {u"get"_s, u"--overwrite"_s, u"/Internal/source"_s, target});
     QCOMPARE(get.run(), 1);
     QVERIFY2(get.errors().contains(reason), get.errors().constData());
+    QCOMPARE(get.errors().count('\n'), 1);
     QVERIFY(!QFileInfo(u"/dev/null"_s).isFile());
 }
 
