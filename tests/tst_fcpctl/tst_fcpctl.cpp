@@ -227,19 +227,19 @@ void TestFcpctl::changesFiles()
     const auto run = [this](const QStringList &arguments) {
         return Fcpctl(m_simulator.port(), arguments).run();
     };
-    QCOMPARE(run({u"mkdir"_s, u"/Internal/work"_s, u"/Internal/work/inner/"_s}), 0);
-    makeFile(u"/Internal/work/a"_s, "a");
-    makeFile(u"/Internal/work/b"_s, "bb");
-    QCOMPARE(run({u"mv"_s, u"/Internal/work/a"_s, u"/Internal/work/renamed"_s}), 0);
-    QCOMPARE(run({u"mv"_s, u"/Internal/work/renamed"_s, u"/Internal/work/b"_s,
-                  u"/Internal/work/inner"_s}),
+    QCOMPARE(run({u"mkdir"_s, u"/Internal/area"_s, u"/Internal/area/inner/"_s}), 0);
+    makeFile(u"/Internal/area/a"_s, "a");
+    makeFile(u"/Internal/area/b"_s, "bb");
+    QCOMPARE(run({u"mv"_s, u"/Internal/area/a"_s, u"/Internal/area/renamed"_s}), 0);
+    QCOMPARE(run({u"mv"_s, u"/Internal/area/renamed"_s, u"/Internal/area/b"_s,
+                  u"/Internal/area/inner"_s}),
              0);
-    QCOMPARE(listing(u"/Internal/work"_s), QStringList {u"inner/"_s});
-    QCOMPARE(listing(u"/Internal/work/inner"_s), (QStringList {u"b"_s, u"renamed"_s}));
-    QCOMPARE(run({u"cp"_s, u"/Internal/work/inner"_s, u"/Remote/copy"_s}), 0);
-    QCOMPARE(run({u"cp"_s, u"/Internal/work/inner/b"_s, u"/Remote/"_s}), 0);
+    QCOMPARE(listing(u"/Internal/area"_s), QStringList {u"inner/"_s});
+    QCOMPARE(listing(u"/Internal/area/inner"_s), (QStringList {u"b"_s, u"renamed"_s}));
+    QCOMPARE(run({u"cp"_s, u"/Internal/area/inner"_s, u"/Remote/copy"_s}), 0);
+    QCOMPARE(run({u"cp"_s, u"/Internal/area/inner/b"_s, u"/Remote/"_s}), 0);
     QCOMPARE(listing(u"/Remote"_s), (QStringList {u"b"_s, u"copy/"_s}));
-    QCOMPARE(run({u"rm"_s, u"-r"_s, u"/Internal/work"_s, u"/Remote/copy/"_s, u"/Remote/b"_s}), 0);
+    QCOMPARE(run({u"rm"_s, u"-r"_s, u"/Internal/area"_s, u"/Remote/copy/"_s, u"/Remote/b"_s}), 0);
     QCOMPARE(listing(u"/Remote"_s), QStringList());
 }
 
