@@ -184,16 +184,16 @@ std::optional<Fault> Faults::next(std::string_view operation)
         return std::nullopt;
     }
     const std::lock_guard lock(m_mutex);
-    std::optional<Fault> fault;
+    const Fault *fault = nullptr;
     for (Rule &rule : m_rules) {
         if (rule.operation.empty() || rule.operation == operation) {
             ++rule.calls;
             if (!fault && rule.calls >= rule.first && rule.calls <= rule.last) {
-                fault = rule.fault;
+                fault = &rule.fault;
             }
         }
     }
-    return fault;
+    return fault ? std::optional<Fault>(*fault) : std::nullopt;
 }
 
 const char *Faults::help()
