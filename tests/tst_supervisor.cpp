@@ -3,7 +3,9 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
+#include <thread>
 
 #include <corba/VexLinkSupervisor.h>
 
@@ -23,23 +25,49 @@ namespace {
 
 const QString Host = u"127.0.0.1"_s;
 
-/// The longest time in which the event loop did not come round.
+/// The longest time for which the event loop was kept from coming round, beyond the pauses that a
+/// busy machine forces on a thread which only sleeps.
 class StallMeter
 {
 public:
     StallMeter()
     {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer,
-                         [this] { m_longest = std::max(m_longest, m_since.restart()); });
-        m_since.start();
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { m_loop.tick(); });
         m_timer.start(1);
+        m_idler = std::thread([this] {
+            Pauses pauses;
+            while (!m_enough) {
+                QThread::usleep(1000);
+                pauses.tick();
+                m_longestOfIdler = pauses.longest;
+            }
+        });
     }
-    qint64 longestMs() const { return m_longest; }
+    StallMeter(const StallMeter &) = delete;
+    StallMeter &operator=(const StallMeter &) = delete;
+    ~StallMeter()
+    {
+        m_enough = true;
+        m_idler.join();
+    }
+
+    qint64 longestMs() const { return m_loop.longest - m_longestOfIdler; }
 
 private:
+    struct Pauses
+    {
+        Pauses() { since.start(); }
+        void tick() { longest = std::max(longest, since.restart()); }
+
+        QElapsedTimer since;
+        qint64 longest = 0;
+    };
+
     QTimer m_timer;
-    QElapsedTimer m_since;
-    qint64 m_longest = 0;
+    Pauses m_loop;
+    std::atomic<qint64> m_longestOfIdler = 0;
+    std::atomic<bool> m_enough = false;
+    std::thread m_idler;
 };
 
 /// A supervisor with short times, and what it has reported.
