@@ -398,8 +398,12 @@ void TestSupervisor::stopEndsTheAttempts()
     watch->start(Host, m_proxy.port());
     QVERIFY(watch.reaches(State::Connected));
     m_proxy.setListening(false);
+    watch.forget();
     m_proxy.cutConnections(TcpProxy::Ending::Reset);
-    QVERIFY(watch.reaches(State::Lost));
+    // Between two attempts.
+    QVERIFY(pollUntil([&] {
+        return watch->state() == State::Lost && watch.states().contains(State::Restoring);
+    }));
     watch->stop();
     QCOMPARE(watch->state(), State::Stopped);
     watch.forget();
