@@ -228,7 +228,7 @@ bool BiDirectionalCORBA::startORB(const QVector<QString> &args)
         return false;
     }
     if (!arguments.endpoint) {
-        return tryORB(arguments.words);
+        return tryORB(arguments.words) == Attempt::Started;
     }
 
     const ListenEndpoint &endpoint = *arguments.endpoint;
@@ -237,13 +237,12 @@ bool BiDirectionalCORBA::startORB(const QVector<QString> &args)
         if (port != 0 && !isFree(endpoint, port)) {
             continue;
         }
-        if (tryORB(QVector<QString> {u"-ORBendPoint"_s, endpoint.forOmniOrb(port)}
-                   + arguments.words)) {
-            return true;
+        const QVector<QString> endpointWords = {u"-ORBendPoint"_s, endpoint.forOmniOrb(port)};
+        const Attempt attempt = tryORB(endpointWords + arguments.words);
+        if (attempt != Attempt::CannotListen) {
+            return attempt == Attempt::Started;
         }
-        if (port == 0 || isFree(endpoint, port)) {
-            return false; // not for want of the port
-        }
+        // Somebody else has taken the port since it was found free.
     }
     s_lastError = u"cannot listen for callbacks: %1 %2 in use%3"_s.arg(
         endpoint.describe(), endpoint.portCount == 1 ? u"is"_s : u"are all"_s,
@@ -252,7 +251,7 @@ bool BiDirectionalCORBA::startORB(const QVector<QString> &args)
     return false;
 }
 
-bool BiDirectionalCORBA::tryORB(const QVector<QString> &words)
+BiDirectionalCORBA::Attempt BiDirectionalCORBA::tryORB(const QVector<QString> &words)
 {
     for (const QString &word : words) {
         qCDebug(lcCorba).noquote() << "CORBA argument"
@@ -267,13 +266,15 @@ bool BiDirectionalCORBA::tryORB(const QVector<QString> &words)
     // Its default, at which it names a wrong argument; an earlier instance may have silenced it.
     omniORB::traceLevel = 1;
     ArgumentVector argv(words);
+    Attempt attempt = Attempt::WrongArguments;
     try {
         d->orb = CORBA::ORB_init(argv.count(), argv.pointers());
+        attempt = Attempt::CannotListen;
         forbidRetries();
         ConnectionGate::install();
         initializePOA();
         d->port = portOf(omni::omniObjAdapter::listMyEndpoints());
-        return true;
+        return Attempt::Started;
     } catch (const CORBA::Exception &exception) {
         // With -ORBtraceLevel 0 it has nothing to say: then any of the words may be meant.
         const QString complaint = takeOrbComplaint();
@@ -282,7 +283,7 @@ bool BiDirectionalCORBA::tryORB(const QVector<QString> &words)
             complaint.isEmpty() ? u"it was given "_s + words.join(u' ') : complaint);
     }
     destroyORB();
-    return false;
+    return attempt;
 }
 
 void BiDirectionalCORBA::initializePOA()

@@ -118,7 +118,8 @@ private:
     std::shared_ptr<UpcallQueue> upcalls() const;
     void run() override;
     bool startORB(const QVector<QString> &args);
-    bool tryORB(const QVector<QString> &words);
+    enum class Attempt { Started, WrongArguments, CannotListen };
+    Attempt tryORB(const QVector<QString> &words);
     void initializePOA();
     void destroyORB();
 

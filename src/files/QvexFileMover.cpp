@@ -8,6 +8,7 @@
 #include <array>
 #include <chrono>
 
+#include "corba/FcpAppCORBA.h"
 #include "corba/FcpRemoteFile.h"
 
 Q_LOGGING_CATEGORY(lcMover, "vex.files.mover", QtInfoMsg)
@@ -20,43 +21,6 @@ constexpr auto ProgressInterval = std::chrono::milliseconds(50);
 
 /// Answers without a single byte that are borne in a row before the controller counts as broken.
 constexpr int EmptyAnswersBorne = 1000;
-
-/// Runs a transfer; whatever it throws, its files are closed by then, and it has failed.
-template<typename Body>
-int guarded(const QString &source, Body &&body)
-{
-    try {
-        return body();
-    } catch (const std::exception &exception) {
-        qCDebug(lcMover) << "moving" << source << "failed:" << exception.what();
-    } catch (...) {
-        qCDebug(lcMover) << "moving" << source << "failed by an unknown exception";
-    }
-    return Failed;
-}
-
-/// Opens @p target for writing a new file, with its missing folders.
-int openLocalTarget(QFile &target, bool overwrite)
-{
-    if (target.exists()) {
-        if (!overwrite) {
-            return Exists;
-        }
-        if (!target.remove()) {
-            qCDebug(lcMover) << "cannot remove" << target.fileName() << target.errorString();
-            return Failed;
-        }
-    }
-    if (!QDir().mkpath(QFileInfo(target.fileName()).path())) {
-        qCDebug(lcMover) << "cannot make the folder of" << target.fileName();
-        return Failed;
-    }
-    if (!target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        qCDebug(lcMover) << "cannot write" << target.fileName() << target.errorString();
-        return Failed;
-    }
-    return Done;
-}
 
 } // namespace
 
@@ -74,6 +38,7 @@ public:
         , m_source(source)
     {
         m_mover->m_state = State::Running;
+        m_mover->setError(QString());
     }
     ~Transfer()
     {
@@ -172,45 +137,106 @@ void QvexFileMover::runDownload()
     Q_EMIT complete(downloadFile(m_src, m_dst, m_overwrite));
 }
 
+QString QvexFileMover::lastError() const
+{
+    const QMutexLocker locker(&m_errorMutex);
+    return m_lastError;
+}
+
+void QvexFileMover::setError(const QString &reason)
+{
+    const QMutexLocker locker(&m_errorMutex);
+    m_lastError = reason;
+}
+
+int QvexFileMover::fail(const QString &reason)
+{
+    qCDebug(lcMover).noquote() << reason;
+    setError(reason);
+    return Failed;
+}
+
+int QvexFileMover::failRemotely(const QString &reason)
+{
+    return fail(m_controller->isConnected() ? reason : m_controller->lastError());
+}
+
+/// Runs a transfer; whatever it throws, its files are closed by then, and it has failed.
+template<typename Body>
+int QvexFileMover::guarded(const QString &source, Body &&body)
+{
+    try {
+        return body();
+    } catch (const std::exception &exception) {
+        return fail(tr("%1 was not carried: %2").arg(source, QLatin1String(exception.what())));
+    } catch (...) {
+        return fail(tr("%1 was not carried: an unknown exception").arg(source));
+    }
+}
+
 int QvexFileMover::uploadFile(const QString &localSrc, const QString &remoteDst, bool overwrite)
 {
     return guarded(localSrc, [&] {
         Transfer transfer(this, localSrc, localSrc);
         if (!transfer.local.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-            qCDebug(lcMover) << "cannot read" << localSrc << transfer.local.errorString();
-            return int(Failed);
+            return fail(tr("%1 cannot be read: %2").arg(localSrc, transfer.local.errorString()));
         }
-        const FileSystemResult opened = transfer.remote.open(remoteDst, true, overwrite);
-        if (opened != FS_OK) {
-            return int(opened == FS_EXISTS ? Exists : Failed);
+        switch (transfer.remote.open(remoteDst, true, overwrite)) {
+        case FS_OK:
+            return pushContents(transfer);
+        case FS_EXISTS:
+            setError(tr("%1 exists on the instrument").arg(remoteDst));
+            return int(Exists);
+        default:
+            return failRemotely(tr("the instrument cannot write %1").arg(remoteDst));
         }
-        return pushContents(transfer);
     });
 }
 
 int QvexFileMover::pushContents(Transfer &transfer)
 {
+    const QString source = transfer.local.fileName();
     const qint64 sizeAtStart = transfer.local.isSequential() ? -1 : transfer.local.size();
     transfer.setTotal(sizeAtStart);
     while (!transfer.isAborted()) {
         const qint64 length = transfer.local.read(transfer.buffer.data(), ChunkSize);
         if (length < 0) {
-            qCDebug(lcMover) << "cannot read" << transfer.local.fileName()
-                             << transfer.local.errorString();
-            return Failed;
+            return fail(tr("%1 cannot be read: %2").arg(source, transfer.local.errorString()));
         }
         if (length == 0) {
-            transfer.local.close();
-            // What the controller could not keep it says here at the latest. A source that has
-            // shrunk meanwhile was not carried whole either.
-            return transfer.remote.close() == FS_OK && transfer.done() >= sizeAtStart ? Done
-                                                                                      : Failed;
+            return finishUpload(transfer, sizeAtStart);
         }
         if (transfer.remote.push(transfer.buffer.data(), static_cast<long>(length)) != FS_OK) {
-            return Failed;
+            return failRemotely(
+                tr("the instrument could not store what was sent of %1").arg(source));
         }
         transfer.carried(length);
     }
+    return abortedAt(transfer);
+}
+
+int QvexFileMover::finishUpload(Transfer &transfer, qint64 expectedSize)
+{
+    transfer.local.close();
+    // What the controller could not keep it says here at the latest.
+    switch (transfer.remote.close()) {
+    case FS_OK:
+        break;
+    case FS_EXISTS:
+        setError(tr("the destination has appeared on the instrument meanwhile"));
+        return Exists;
+    default:
+        return failRemotely(tr("the instrument could not store the file"));
+    }
+    if (transfer.done() < expectedSize) {
+        return fail(tr("%1 has shrunk while it was read").arg(transfer.local.fileName()));
+    }
+    return Done;
+}
+
+int QvexFileMover::abortedAt(const Transfer &transfer)
+{
+    setError(tr("aborted after %1 bytes").arg(transfer.done()));
     return Aborted;
 }
 
@@ -223,31 +249,56 @@ int QvexFileMover::downloadFile(const QString &remoteSrc, const QString &localDs
             return prepared;
         }
         if (transfer.remote.open(remoteSrc, false, false) != FS_OK) {
-            return int(Failed);
+            return failRemotely(tr("the instrument cannot read %1").arg(remoteSrc));
         }
         return pullContents(transfer);
     });
 }
 
+int QvexFileMover::openLocalTarget(QFile &target, bool overwrite)
+{
+    const QString path = target.fileName();
+    if (target.exists()) {
+        if (!overwrite) {
+            setError(tr("%1 exists").arg(path));
+            return Exists;
+        }
+        if (!target.remove()) {
+            return fail(tr("%1 cannot be removed: %2").arg(path, target.errorString()));
+        }
+    }
+    if (!QDir().mkpath(QFileInfo(path).path())) {
+        return fail(tr("the folder of %1 cannot be made").arg(path));
+    }
+    if (!target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        return fail(tr("%1 cannot be written: %2").arg(path, target.errorString()));
+    }
+    return Done;
+}
+
 int QvexFileMover::pullContents(Transfer &transfer)
 {
+    const QString target = transfer.local.fileName();
     FileSystemResult result = FS_OK;
     int emptyAnswers = 0;
     while (result == FS_OK && emptyAnswers < EmptyAnswersBorne) {
         if (transfer.isAborted()) {
-            return Aborted;
+            return abortedAt(transfer);
         }
         long length = 0;
         result = transfer.remote.pull(ChunkSize, length, transfer.buffer.data());
         if (transfer.local.write(transfer.buffer.data(), length) != length) {
-            qCDebug(lcMover) << "cannot write" << transfer.local.fileName()
-                             << transfer.local.errorString();
-            return Failed;
+            return fail(tr("%1 cannot be written: %2").arg(target, transfer.local.errorString()));
         }
         emptyAnswers = length == 0 ? emptyAnswers + 1 : 0;
         transfer.carried(length);
     }
     transfer.local.close();
-    const bool closed = transfer.local.error() == QFileDevice::NoError;
-    return result == FS_NOMORE && closed ? Done : Failed;
+    if (result != FS_NOMORE) {
+        return failRemotely(tr("the instrument could not read the file to its end"));
+    }
+    if (transfer.local.error() != QFileDevice::NoError) {
+        return fail(tr("%1 cannot be written: %2").arg(target, transfer.local.errorString()));
+    }
+    return Done;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMutex>
 #include <QObject>
 #include <QString>
 
@@ -8,6 +9,7 @@
 #include "VexExport.h"
 
 class FcpAppCORBA;
+class QFile;
 
 /**
  * Moves one file between the local disk and the instrument, in chunks of 131072 bytes.
@@ -48,6 +50,10 @@ public:
     /** Carries a file of the instrument to the local disk; makes missing folders. */
     int downloadFile(const QString &remoteSrc, const QString &localDst, bool overwrite);
 
+    /** Why the last transfer of this mover did not end with 0, in words; empty when it did. Any
+     * thread. */
+    QString lastError() const;
+
     /**
      * Ends the running transfer at the next chunk with result 3. From any thread. Without a running
      * transfer it does nothing: the next one is not affected.
@@ -73,6 +79,15 @@ private:
     enum class State { Idle, Running, Aborting };
     class Transfer;
 
+    template<typename Body>
+    int guarded(const QString &source, Body &&body);
+    void setError(const QString &reason);
+    int fail(const QString &reason);
+    /// Likewise, but the link's own reason counts when it is lost.
+    int failRemotely(const QString &reason);
+    int abortedAt(const Transfer &transfer);
+    int finishUpload(Transfer &transfer, qint64 expectedSize);
+    int openLocalTarget(QFile &target, bool overwrite);
     int pushContents(Transfer &transfer);
     int pullContents(Transfer &transfer);
 
@@ -81,4 +96,6 @@ private:
     QString m_dst;
     bool m_overwrite = false;
     std::atomic<State> m_state = State::Idle;
+    mutable QMutex m_errorMutex;
+    QString m_lastError;
 };
