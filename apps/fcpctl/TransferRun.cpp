@@ -207,15 +207,14 @@ QByteArray TransferRun::remoteChecksum(const QString &path)
 {
     FcpRemoteFile file(m_session.controller());
     Checksum checksum;
-    QByteArray buffer(QvexFileMover::ChunkSize, Qt::Uninitialized);
     qint64 done = 0;
     FileSystemResult result = file.open(path, false, false);
     while (result == FS_OK) {
         throwIfInterrupted();
-        long got = 0;
-        result = file.pull(buffer.size(), got, buffer.data());
-        checksum.add(QByteArrayView(buffer).first(got));
-        done += got;
+        QByteArrayView bytes;
+        result = file.pull(QvexFileMover::ChunkSize, bytes);
+        checksum.add(bytes);
+        done += bytes.size();
         m_bar.updateNowAndThen(done);
     }
     m_session.requireLink();

@@ -2,6 +2,8 @@
 
 #include "FcpAppCORBA_p.h"
 
+#include <cstring>
+
 using namespace WireConversion;
 
 QString FcpAppCORBA::newDirectory(const QString &path)
@@ -107,6 +109,13 @@ FileSystemResult FcpAppCORBA::pullFileContents(long handle, long wanted, long &g
     if (!d->admits(handle, wanted) || wanted < 0) {
         return FS_ERROR;
     }
-    return d->call(
-        FS_OK, [&](FcpLink &link) { return link.pullFileContents(handle, wanted, got, buffer); });
+    return d->call(FS_OK, [&](FcpLink &link) {
+        OctetSequence_var bytes;
+        const FileSystemResult result = link.pullFileContents(handle, wanted, bytes);
+        got = static_cast<long>(bytes->length());
+        if (got > 0) {
+            std::memcpy(buffer, bytes->NP_data(), static_cast<size_t>(got));
+        }
+        return result;
+    });
 }

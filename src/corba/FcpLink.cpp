@@ -1,7 +1,5 @@
 #include "FcpLink.h"
 
-#include <cstring>
-
 #include "CorbaLogging.h"
 #include "WireConversion.h"
 
@@ -52,21 +50,15 @@ FileSystemResult FcpLink::pushFileContents(long handle, const char *data, long s
     return m_contents->pushFileContents(WireConversion::toWire(handle), borrowed);
 }
 
-FileSystemResult FcpLink::pullFileContents(long handle, long wanted, long &got, char *buffer)
+FileSystemResult FcpLink::pullFileContents(long handle, long wanted, OctetSequence_var &bytes)
 {
-    OctetSequence_var bytes;
     const FileSystemResult result = m_contents->pullFileContents(
         WireConversion::toWire(handle), WireConversion::toWire(wanted), bytes.out());
-    const long length = static_cast<long>(bytes->length());
-    if (length > wanted) {
-        qCWarning(lcCorba) << "the controller sent" << length << "bytes where" << wanted
+    if (static_cast<long>(bytes->length()) > wanted) {
+        qCWarning(lcCorba) << "the controller sent" << bytes->length() << "bytes where" << wanted
                            << "were asked for; they are dropped";
-        got = 0;
+        bytes->length(0);
         return FS_ERROR;
     }
-    if (length > 0) {
-        std::memcpy(buffer, bytes->NP_data(), static_cast<size_t>(length));
-    }
-    got = length;
     return result;
 }

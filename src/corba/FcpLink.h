@@ -43,7 +43,9 @@ public:
     FileSystemResult openFile(const QString &path, bool write, bool overwrite, long &handle);
     FileSystemResult closeFile(long handle);
     FileSystemResult pushFileContents(long handle, const char *data, long size);
-    FileSystemResult pullFileContents(long handle, long wanted, long &got, char *buffer);
+    /** Into @p bytes as they came, @p wanted at most: more than that is an error and leaves none.
+     */
+    FileSystemResult pullFileContents(long handle, long wanted, OctetSequence_var &bytes);
 
 private:
     const FcpAppInterfaceCORBA_var m_controller;

@@ -20,10 +20,11 @@ struct FcpRemoteFile::Private
     FcpAppCORBA::Private *const proxy;
     std::shared_ptr<FcpLink> link;
     long handle = 0;
+    OctetSequence_var pulled;
 };
 
 FcpRemoteFile::FcpRemoteFile(FcpAppCORBA *controller)
-    : d(new Private {controller->d.get(), nullptr, 0})
+    : d(new Private {controller->d.get(), nullptr, 0, {}})
 {
 }
 
@@ -60,14 +61,17 @@ FileSystemResult FcpRemoteFile::push(const char *data, long size)
     return d->call([&](FcpLink &link) { return link.pushFileContents(d->handle, data, size); });
 }
 
-FileSystemResult FcpRemoteFile::pull(long wanted, long &got, char *buffer)
+FileSystemResult FcpRemoteFile::pull(long wanted, QByteArrayView &bytes)
 {
-    got = 0;
+    bytes = {};
     if (wanted < 0 || !canTravel(wanted)) {
         return FS_ERROR;
     }
-    return d->call(
-        [&](FcpLink &link) { return link.pullFileContents(d->handle, wanted, got, buffer); });
+    return d->call([&](FcpLink &link) {
+        const FileSystemResult result = link.pullFileContents(d->handle, wanted, d->pulled);
+        bytes = QByteArrayView(d->pulled->NP_data(), static_cast<qsizetype>(d->pulled->length()));
+        return result;
+    });
 }
 
 FileSystemResult FcpRemoteFile::close()

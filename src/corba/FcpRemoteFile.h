@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <memory>
@@ -37,8 +38,11 @@ public:
     /** Whether the controller holds a handle for this object. */
     bool isOpen() const;
     [[nodiscard]] FileSystemResult push(const char *data, long size);
-    /** Like FcpAppCORBA::pullFileContents(). */
-    [[nodiscard]] FileSystemResult pull(long wanted, long &got, char *buffer);
+    /**
+     * Reads up to @p wanted bytes. @p bytes shows them until the next call or the end of this
+     * object, uncopied; it is empty on failure.
+     */
+    [[nodiscard]] FileSystemResult pull(long wanted, QByteArrayView &bytes);
     /** What the controller answered to the close, @c FS_ERROR when nothing is open. */
     FileSystemResult close();
 

@@ -267,10 +267,14 @@ int QvexFileMover::openLocalTarget(QFile &target, bool overwrite)
             return fail(tr("%1 cannot be removed: %2").arg(path, target.errorString()));
         }
     }
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    if (target.open(mode)) {
+        return Done;
+    }
     if (!QDir().mkpath(QFileInfo(path).path())) {
         return fail(tr("the folder of %1 cannot be made").arg(path));
     }
-    if (!target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+    if (!target.open(mode)) {
         return fail(tr("%1 cannot be written: %2").arg(path, target.errorString()));
     }
     return Done;
@@ -285,13 +289,13 @@ int QvexFileMover::pullContents(Transfer &transfer)
         if (transfer.isAborted()) {
             return abortedAt(transfer);
         }
-        long length = 0;
-        result = transfer.remote.pull(ChunkSize, length, transfer.buffer.data());
-        if (transfer.local.write(transfer.buffer.data(), length) != length) {
+        QByteArrayView bytes;
+        result = transfer.remote.pull(ChunkSize, bytes);
+        if (transfer.local.write(bytes.data(), bytes.size()) != bytes.size()) {
             return fail(tr("%1 cannot be written: %2").arg(target, transfer.local.errorString()));
         }
-        emptyAnswers = length == 0 ? emptyAnswers + 1 : 0;
-        transfer.carried(length);
+        emptyAnswers = bytes.isEmpty() ? emptyAnswers + 1 : 0;
+        transfer.carried(bytes.size());
     }
     transfer.local.close();
     if (result != FS_NOMORE) {
