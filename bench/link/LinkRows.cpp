@@ -34,10 +34,8 @@ double median(std::vector<double> values)
 double smallCalls(const QList<Placement> &placements, const std::function<double()> &block)
 {
     const PinnedProcesses pinned(placements);
-    std::vector<double> times;
-    for (int i = 0; i < Blocks; ++i) {
-        times.push_back(block());
-    }
+    std::vector<double> times(Blocks);
+    std::generate(times.begin(), times.end(), block);
     return median(times);
 }
 
@@ -129,7 +127,9 @@ public:
         m_arrived = 0;
         m_wrong = 0;
         QEventLoop loop;
-        QTimer::singleShot(60000, &loop, &QEventLoop::quit);
+        QTimer patience;
+        QObject::connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
+        patience.start(60000);
         const auto connection = QObject::connect(
             &m_bench.connection.controller(), &FcpAppCORBA::fcpEventReceived, &loop, [&](int kind) {
                 take(kind);

@@ -149,10 +149,10 @@ void addLargeRow(Suite &suite, const LinkBench &bench, const std::shared_ptr<Riv
     const auto scp = [=] {
         return rivals->ssh().scp(upload ? source : u':' + source, upload ? u':' + target : target);
     };
+    const qint64 mebibytes = files.largeSize() / Workbench::Mebibyte;
     Comparison comparison;
-    comparison.name = u"%1 of %2 MiB"_s.arg(upload ? u"upload"_s : u"download"_s)
-                          .arg(files.largeSize() / (1024 * 1024));
-    comparison.work = {double(files.largeSize()) / (1024 * 1024), u"MiB/s"_s, 0};
+    comparison.name = u"%1 of %2 MiB"_s.arg(upload ? u"upload"_s : u"download"_s).arg(mebibytes);
+    comparison.work = {double(mebibytes), u"MiB/s"_s, 0};
     comparison.subject = entry(u"file mover"_s, {}, [=] { return moveLarge(bench, upload); });
     comparison.rivals = {entry(u"plain TCP"_s, Demand::speedAtLeast(0.7), rawTransfer),
                          entry(u"rsync daemon"_s, Demand::faster(), rsync, RsyncServer::absence()),

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 Block = 1024 * 1024;
+constexpr qint64 Block = Workbench::Mebibyte;
 constexpr qint64 SmallSize = 4096;
 
 int scaled(int count, double scale)
@@ -88,7 +88,7 @@ double secondsOf(const std::function<void()> &work)
 
 Workbench::Workbench(const QString &directory, double scale)
     : m_directory(directory)
-    , m_largeSize(std::max<qint64>(1, static_cast<qint64>(1024 * scale)) * Block)
+    , m_largeSize(std::max<qint64>(1, static_cast<qint64>(1024 * scale)) * Mebibyte)
     , m_smallCount(scaled(2000, scale))
     , m_listedCount(scaled(100000, scale))
     , m_eventCount(scaled(200000, scale))

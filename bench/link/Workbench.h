@@ -18,6 +18,8 @@ double secondsOf(const std::function<void()> &work);
 class Workbench
 {
 public:
+    static constexpr qint64 Mebibyte = 1 << 20;
+
     /** @p scale shortens everything, for a quick look. */
     Workbench(const QString &directory, double scale);
 
