@@ -67,7 +67,8 @@ public:
 
     /**
      * Shuts the ORB down and destroys the singleton; does nothing when there is none. The proxy
-     * must be gone before. initializeInstance() may be called again afterwards.
+     * must be gone before. Waits for a slot that runs on the ORB thread, and must not be called
+     * from one. initializeInstance() may be called again afterwards.
      */
     static void deleteInstance();
 
@@ -105,7 +106,7 @@ public:
      */
     void getIpList(QVector<QString> *list) const;
 
-    /** The controller's address, kept for the proxy. Empty until setTargetIp(). */
+    /** The controller's host as the proxy was told it last; an address or a name. */
     QString getTargetIp() const;
     void setTargetIp(const QString &address);
 

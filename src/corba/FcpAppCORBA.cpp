@@ -33,11 +33,9 @@ FcpAppCORBA::FcpAppCORBA(BiDirectionalCORBA *corba)
 
 FcpAppCORBA::~FcpAppCORBA()
 {
-    d->callVoid([](FcpLink &link) {
-        if (link.takeRegistration()) {
-            link.controller()->unregisterApp(link.clientId());
-        }
-    });
+    if (const auto link = d->currentLink()) {
+        d->letGo(link);
+    }
     disconnect(d->callback, nullptr, this, nullptr);
     if (m_Instance == this) {
         m_Instance = nullptr;
@@ -46,10 +44,10 @@ FcpAppCORBA::~FcpAppCORBA()
 
 bool FcpAppCORBA::connectToFCP(const QString &host, int port)
 {
-    if (d->connectTo(host, port, false)) {
+    if (d->connectTo(host, port, false) == Private::Connected::Yes) {
         return true;
     }
-    communicationError();
+    Q_EMIT disconnectCatched(-1);
     return false;
 }
 
@@ -95,15 +93,7 @@ AppFcpCORBAImpl *FcpAppCORBA::getCallback() const
 
 void FcpAppCORBA::communicationError()
 {
-    std::shared_ptr<FcpLink> ended;
-    {
-        const QMutexLocker locker(&d->mutex);
-        ended = std::exchange(d->m_link, nullptr);
-    }
-    if (ended) {
-        ++d->lossCount;
-        ended->hangUp();
-    }
+    d->dropLink(d->currentLink(), tr("the link to %1 was given up").arg(getHost()));
     Q_EMIT disconnectCatched(-1);
 }
 
@@ -123,6 +113,11 @@ quint64 FcpAppCORBA::linkSerial() const
 {
     const auto link = d->currentLink();
     return link ? link->serial() : 0;
+}
+
+qint64 FcpAppCORBA::millisecondsSinceHeard() const
+{
+    return d->signOfLife->age();
 }
 
 void FcpAppCORBA::fcpEvent(int event)
@@ -283,7 +278,9 @@ long FcpAppCORBA::getResourceRequestStatus(long requestId)
         return FcpAppInterfaceCORBA::_nil()->getResourceRequestStatus(toWire(requestId));
     }
     const ConnectionGate::BoundCall bound(link->connection());
-    return link->controller()->getResourceRequestStatus(toWire(requestId));
+    const long status = link->controller()->getResourceRequestStatus(toWire(requestId));
+    d->signOfLife->note();
+    return status;
 }
 
 int FcpAppCORBA::getTestTcpPort(long testId)

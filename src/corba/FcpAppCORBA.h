@@ -25,9 +25,9 @@ class FcpLink;
  *
  * ### Results
  * A method that fails for any reason returns a zero result (false, 0, an empty text; vectors and
- * other out-arguments untouched), and the link is then lost: disconnectCatched(-1) is emitted once
- * for it, and every method returns zero at once until the next connectToFCP(). No exception leaves
- * a method, getResourceRequestStatus() excepted.
+ * other out-arguments untouched), and the link is then lost: disconnectCatched(-1) is
+ * emitted once for it, and every method returns zero at once until the next connectToFCP(). No
+ * exception leaves a method, getResourceRequestStatus() excepted.
  *
  * The zero of a FileSystemResult is @c FS_OK. Code that moves bytes must not mistake a lost link
  * for success: FcpRemoteFile tells the two apart.
@@ -59,12 +59,15 @@ public:
     /** The proxy, or null before the first initializeInstance(). */
     static FcpAppCORBA *instance();
 
-    /** Unregisters when connected, then releases the callback object and the controller. */
+    /**
+     * Unregisters, unless disconnectFromFCP() has done so, then releases the callback object and
+     * the controller. A controller that does not answer is waited for no longer than 3 s.
+     */
     ~FcpAppCORBA() override;
 
     /**
      * Connects to the controller at "corbaloc:iiop:" host ":" port "/bidir/FcpApp" and registers
-     * the callback object. Replaces the link that was there.
+     * the callback object. Replaces the link that was there, which is unregistered.
      *
      * Blocks until the controller has answered; may be called from any thread, one call at a time
      * goes through.

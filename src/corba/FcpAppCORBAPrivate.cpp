@@ -130,13 +130,6 @@ std::shared_ptr<FcpLink> FcpAppCORBA::Private::currentLink() const
     return m_link;
 }
 
-void FcpAppCORBA::Private::setError(const QString &reason)
-{
-    qCDebug(lcCorba).noquote() << reason;
-    const QMutexLocker locker(&mutex);
-    m_lastError = reason;
-}
-
 FcpAppCORBA::Private::Controller FcpAppCORBA::Private::findController(const QByteArray &address)
 {
     Controller found;
@@ -191,11 +184,13 @@ std::shared_ptr<FcpLink> FcpAppCORBA::Private::makeLink(const QString &host, int
                                      registration.connection(), registration.socket(), ++linkCount);
 }
 
-bool FcpAppCORBA::Private::connectTo(const QString &host, int port, bool onlyIfLost)
+FcpAppCORBA::Private::Connected FcpAppCORBA::Private::connectTo(const QString &host, int port,
+                                                                bool onlyIfLost)
 {
     const QMutexLocker locker(&connecting);
-    if (onlyIfLost && currentLink()) {
-        return true;
+    const std::shared_ptr<FcpLink> before = currentLink();
+    if (onlyIfLost && before) {
+        return Connected::Yes;
     }
     {
         const QMutexLocker dataLocker(&mutex);
@@ -205,11 +200,16 @@ bool FcpAppCORBA::Private::connectTo(const QString &host, int port, bool onlyIfL
     corba->setTargetIp(host);
     try {
         replaceLink(makeLink(host, port));
-        return true;
+        return Connected::Yes;
     } catch (...) {
-        setError(
-            u"no link to %1:%2: %3"_s.arg(host).arg(port).arg(describeCurrentException(false)));
-        return false;
+        const QString reason =
+            u"no link to %1:%2: %3"_s.arg(host).arg(port).arg(describeCurrentException(false));
+        if (before && dropLink(before, reason)) {
+            return Connected::LinkDropped;
+        }
+        const QMutexLocker dataLocker(&mutex);
+        m_lastError = reason;
+        return Connected::No;
     }
 }
 
@@ -219,6 +219,7 @@ void FcpAppCORBA::Private::replaceLink(const std::shared_ptr<FcpLink> &fresh)
     {
         const QMutexLocker locker(&mutex);
         replaced = std::exchange(m_link, fresh);
+        fresh->setLossesBefore(m_lossCount);
         m_lastError.clear();
     }
     signOfLife->note();
@@ -247,20 +248,27 @@ void FcpAppCORBA::Private::letGo(const std::shared_ptr<FcpLink> &old)
     }
 }
 
-void FcpAppCORBA::Private::linkFailed(const std::shared_ptr<FcpLink> &failed, const QString &reason)
+bool FcpAppCORBA::Private::dropLink(const std::shared_ptr<FcpLink> &link, const QString &reason)
 {
     {
         const QMutexLocker locker(&mutex);
-        if (m_link != failed) {
-            return; // somebody else reported it, or it was replaced meanwhile
+        if (!link || m_link != link) {
+            return false; // somebody else dropped it, or it was replaced meanwhile
         }
         m_link.reset();
-        ++lossCount;
-        m_lastError = u"the link to %1 is lost: %2"_s.arg(m_host, reason);
-        qCDebug(lcCorba).noquote() << m_lastError;
+        ++m_lossCount;
+        m_lastError = reason;
+        link->hangUp();
     }
-    failed->hangUp();
-    Q_EMIT q->disconnectCatched(-1);
+    qCDebug(lcCorba).noquote() << reason;
+    return true;
+}
+
+void FcpAppCORBA::Private::linkFailed(const std::shared_ptr<FcpLink> &link, const QString &reason)
+{
+    if (dropLink(link, u"the link to %1 is lost: %2"_s.arg(q->getHost(), reason))) {
+        Q_EMIT q->disconnectCatched(-1);
+    }
 }
 
 void FcpAppCORBA::Private::activateCallback()
@@ -289,9 +297,4 @@ void FcpAppCORBA::Private::deactivateCallback()
     } catch (const CORBA::Exception &exception) {
         qCDebug(lcCorba) << "the callback object was not active:" << exception._name();
     }
-}
-
-qint64 FcpAppCORBA::millisecondsSinceHeard() const
-{
-    return d->signOfLife->age();
 }

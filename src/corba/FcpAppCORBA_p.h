@@ -43,11 +43,13 @@ struct FcpAppCORBA::Private
     ~Private();
 
     std::shared_ptr<FcpLink> currentLink() const;
+    enum class Connected { Yes, No, LinkDropped };
     /**
-     * Connects, registers and makes that the current link; on failure the reason is in m_lastError
-     * and the link is as it was. With @p onlyIfLost it does nothing when there is a link.
+     * Connects, registers and makes that the current link. On failure the link that was there is
+     * dropped (LinkDropped: who calls this says so) and the reason is in m_lastError. With
+     * @p onlyIfLost it does nothing when there is a link.
      */
-    bool connectTo(const QString &host, int port, bool onlyIfLost);
+    Connected connectTo(const QString &host, int port, bool onlyIfLost);
     struct Controller
     {
         FcpAppInterfaceCORBA_var object;
@@ -59,11 +61,12 @@ struct FcpAppCORBA::Private
     std::shared_ptr<FcpLink> makeLink(const QString &host, int port);
     /// Puts @p fresh in the place of the link that was there, which is let go.
     void replaceLink(const std::shared_ptr<FcpLink> &fresh);
-    /// Takes @p link away if it is still the current one, and says so: once for each link.
+    /// Takes @p link away if it is still the current one. @return whether it was.
+    bool dropLink(const std::shared_ptr<FcpLink> &link, const QString &reason);
+    /// Likewise, and says so: once for each link.
     void linkFailed(const std::shared_ptr<FcpLink> &link, const QString &reason);
     /// Unregisters a link that others have replaced; what comes of it does not matter any more.
     void letGo(const std::shared_ptr<FcpLink> &link);
-    void setError(const QString &reason);
 
     void activateCallback();
     void deactivateCallback();
@@ -134,10 +137,10 @@ struct FcpAppCORBA::Private
     std::shared_ptr<FcpLink> m_link;
     QString m_host;
     int m_port = 0;
+    quint64 m_lossCount = 0; ///< links that were lost, not replaced
     QString m_lastError;
 
     std::atomic<quint64> linkCount = 0;
-    std::atomic<quint64> lossCount = 0; ///< links that were lost, not replaced
     /// Shared with the connection to the callback object, whose signal the ORB thread may be
     /// emitting while the proxy goes.
     const std::shared_ptr<SignOfLife> signOfLife = std::make_shared<SignOfLife>();

@@ -37,6 +37,10 @@ public:
      */
     void hangUp() const;
 
+    /** How many links the proxy had lost when this one became current. */
+    quint64 lossesBefore() const { return m_lossesBefore; }
+    void setLossesBefore(quint64 losses) { m_lossesBefore = losses; }
+
     /** Whether the caller is the one to unregister: true once. */
     bool takeRegistration() { return m_registered.exchange(false); }
 
@@ -54,5 +58,6 @@ private:
     const QByteArray m_connection;
     const std::optional<LinkSocket> m_socket;
     const quint64 m_serial;
+    std::atomic<quint64> m_lossesBefore = 0;
     std::atomic<bool> m_registered = true;
 };

@@ -145,10 +145,9 @@ void VexLinkSupervisor::Private::watch(Lock &lock)
     }
     const quint64 serial = link->serial();
     if (serial != seenLink) {
-        const quint64 losses = controller->d->lossCount;
-        const bool wasLost = seenLink != 0 && losses != seenLosses;
+        const bool wasLost = seenLink != 0 && link->lossesBefore() != seenLosses;
         seenLink = serial;
-        seenLosses = losses;
+        seenLosses = link->lossesBefore();
         lossReported = false;
         failedAttempts = 0;
         post(State::Connected,
@@ -215,17 +214,18 @@ void VexLinkSupervisor::Private::restore(Lock &lock)
     lock.unlock();
     // A link to another address is replaced, one that somebody else has just made is not.
     const bool sameAddress = controller->getHost() == toHost && controller->getPort() == toPort;
-    bool connected = false;
+    using Connected = FcpAppCORBA::Private::Connected;
+    Connected connected = Connected::No;
     {
         const ThreadCallTimeOut bounded(timeOut);
         connected = controller->d->connectTo(toHost, toPort, sameAddress);
     }
     const QString failure = controller->lastError();
-    if (!connected && controller->isConnected()) {
-        controller->communicationError(); // a link to another address is not what was asked for
+    if (connected == Connected::LinkDropped) {
+        Q_EMIT controller->disconnectCatched(-1);
     }
     lock.lock();
-    if (connected || !isCurrent(thisWatch)) {
+    if (connected == Connected::Yes || !isCurrent(thisWatch)) {
         return; // the next round sees what there is
     }
     ++failedAttempts;
@@ -387,6 +387,7 @@ void VexLinkSupervisor::setRetryDelays(milliseconds first, milliseconds longest)
 
 void VexLinkSupervisor::start(const QString &host, int port)
 {
+    d->suspicion.stop();
     {
         const Private::Lock lock(d->mutex);
         d->host = host;

@@ -20,9 +20,10 @@ class FcpAppCORBA;
  * so that many clients don't come back in step.
  *
  * All calls to the controller are made on a thread of its own: no method blocks, but for the
- * destructor, which waits for a call that is under way (bounded by answerTimeOut() and the ORB's
- * connect time-out). Methods belong to the thread that the object lives on, signals are emitted
- * there.
+ * destructor, which waits for what is under way there. A sign of life takes answerTimeOut() at
+ * most; an attempt to connect makes several calls, after looking up the host's name and after a
+ * connectToFCP() of somebody else. Methods belong to the thread that the object lives on, signals
+ * are emitted there.
  *
  * @code
  * auto *supervisor = new VexLinkSupervisor(FcpAppCORBA::instance(), this);
@@ -70,8 +71,9 @@ public:
     void setInterval(std::chrono::milliseconds interval);
     /**
      * How long a sign of life, or the answer to a registration, is waited for before the link
-     * counts as lost; 5 s by default. A time-out takes everything on the connection with it, so it
-     * must exceed the controller's longest legitimate pause.
+     * counts as lost; 5 s by default. A time-out takes everything on the connection with it: a
+     * controller that answers one call of a client after the other must finish each within
+     * interval() and this time together.
      */
     std::chrono::milliseconds answerTimeOut() const;
     void setAnswerTimeOut(std::chrono::milliseconds timeOut);
@@ -91,7 +93,10 @@ public Q_SLOTS:
      * another address that the proxy may have is replaced.
      */
     void start(const QString &host, int port);
-    /** Stops watching and reconnecting. The link stays as it is. */
+    /**
+     * Stops watching and reconnecting. The link stays as it is. To be called before the
+     * application's own FcpAppCORBA::disconnectFromFCP(), after which no events come.
+     */
     void stop();
     /** Makes the next attempt now instead of after the delay; only matters while Lost. */
     void retryNow();

@@ -37,29 +37,27 @@ public:
         , m_mover(mover)
         , m_source(source)
     {
-        m_mover->m_state = State::Running;
+        m_mover->m_done = 0;
+        m_mover->m_total = -1;
         m_mover->setError(QString());
+        m_mover->m_state = State::Running;
     }
-    ~Transfer()
-    {
-        m_mover->m_state = State::Idle;
-        Q_EMIT m_mover->progress(m_source, m_done, m_total);
-    }
+    ~Transfer() { m_mover->m_state = State::Idle; }
 
     Transfer(const Transfer &) = delete;
     Transfer &operator=(const Transfer &) = delete;
 
     bool isAborted() const { return m_mover->m_state == State::Aborting; }
-    void setTotal(qint64 total) { m_total = total; }
-    qint64 done() const { return m_done; }
+    void setTotal(qint64 total) { m_mover->m_total = total; }
+    qint64 done() const { return m_mover->m_done; }
 
     void carried(qint64 bytes)
     {
-        m_done += bytes;
+        m_mover->m_done += bytes;
         const auto now = std::chrono::steady_clock::now();
         if (now - m_lastProgress >= ProgressInterval) {
             m_lastProgress = now;
-            Q_EMIT m_mover->progress(m_source, m_done, m_total);
+            Q_EMIT m_mover->progress(m_source, m_mover->m_done, m_mover->m_total);
         }
     }
 
@@ -70,8 +68,6 @@ public:
 private:
     QvexFileMover *const m_mover;
     const QString m_source;
-    qint64 m_done = 0;
-    qint64 m_total = -1;
     std::chrono::steady_clock::time_point m_lastProgress = std::chrono::steady_clock::now();
 };
 
@@ -158,20 +154,24 @@ int QvexFileMover::fail(const QString &reason)
 
 int QvexFileMover::failRemotely(const QString &reason)
 {
-    return fail(m_controller->isConnected() ? reason : m_controller->lastError());
+    const QString linkReason = m_controller->isConnected() ? QString() : m_controller->lastError();
+    return fail(linkReason.isEmpty() ? reason : linkReason);
 }
 
-/// Runs a transfer; whatever it throws, its files are closed by then, and it has failed.
+/// Runs a transfer, whose files are closed when it returns, whatever it throws.
 template<typename Body>
 int QvexFileMover::guarded(const QString &source, Body &&body)
 {
+    int result = Failed;
     try {
-        return body();
+        result = body();
     } catch (const std::exception &exception) {
-        return fail(tr("%1 was not carried: %2").arg(source, QLatin1String(exception.what())));
+        fail(tr("%1 was not carried: %2").arg(source, QLatin1String(exception.what())));
     } catch (...) {
-        return fail(tr("%1 was not carried: an unknown exception").arg(source));
+        fail(tr("%1 was not carried: an unknown exception").arg(source));
     }
+    Q_EMIT progress(source, m_done, m_total);
+    return result;
 }
 
 int QvexFileMover::uploadFile(const QString &localSrc, const QString &remoteDst, bool overwrite)

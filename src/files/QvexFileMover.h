@@ -18,7 +18,7 @@ class QFile;
  * |---|---|
  * | 0 | the file was carried: every byte was accepted, and the target was closed without an error |
  * | 1 | failure, on either side or of the link |
- * | 2 | the destination exists and overwriting was not allowed |
+ * | 2 | the destination exists, or has appeared meanwhile, and overwriting was not allowed |
  * | 3 | aborted |
  *
  * A transfer blocks the calling thread; one at a time for each mover. What a failed or aborted one
@@ -47,7 +47,10 @@ public:
 
     /** Carries a local file to the instrument. @return the result, see the table above. */
     int uploadFile(const QString &localSrc, const QString &remoteDst, bool overwrite);
-    /** Carries a file of the instrument to the local disk; makes missing folders. */
+    /**
+     * Carries a file of the instrument to the local disk; makes missing folders. A controller that
+     * answers a thousand times in a row without a byte counts as broken.
+     */
     int downloadFile(const QString &remoteSrc, const QString &localDst, bool overwrite);
 
     /** Why the last transfer of this mover did not end with 0, in words; empty when it did. Any
@@ -70,7 +73,8 @@ Q_SIGNALS:
     /** The transfer that runUpload() or runDownload() began has ended. */
     void complete(int result);
     /**
-     * @p done bytes of @p total (-1: unknown) of @p file, the source's path, were carried. At most
+     * @p done bytes of @p total (-1: unknown, as for every download, since the controller tells the
+     * size in listings only) of @p file, the source's path, were carried. At most
      * 20 times a second, and once when the transfer has ended, whatever its result.
      */
     void progress(const QString &file, qint64 done, qint64 total);
@@ -95,6 +99,8 @@ private:
     QString m_src;
     QString m_dst;
     bool m_overwrite = false;
+    qint64 m_done = 0;
+    qint64 m_total = -1;
     std::atomic<State> m_state = State::Idle;
     mutable QMutex m_errorMutex;
     QString m_lastError;

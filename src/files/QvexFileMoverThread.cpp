@@ -52,9 +52,12 @@ void QvexFileMoverThread::downloadFiles(const QVector<QString> &remoteSources,
 void QvexFileMoverThread::start(const QVector<QString> &sources, const QString &folder,
                                 bool overwrite, void (QvexFileMoverThread::*body)())
 {
-    if (m_running.exchange(true)) {
+    if (!begin()) {
         qCWarning(lcMover) << "a transfer is under way; the one into" << folder << "was not begun";
         return;
+    }
+    if (m_thread) {
+        m_thread->wait(); // of a run that has completed
     }
     m_sources = sources;
     m_folder = folder;
@@ -76,7 +79,19 @@ void QvexFileMoverThread::start(const QVector<QString> &sources, const QString &
 void QvexFileMoverThread::finished()
 {
     moveToThread(m_home);
-    m_running = false;
+}
+
+bool QvexFileMoverThread::begin()
+{
+    const QMutexLocker locker(&m_activeMutex);
+    return !std::exchange(m_active, true);
+}
+
+void QvexFileMoverThread::end()
+{
+    const QMutexLocker locker(&m_activeMutex);
+    m_active = false;
+    m_cancelled = false;
 }
 
 bool QvexFileMoverThread::exists(const QString &src, const QString &folder, bool local)
@@ -93,8 +108,16 @@ bool QvexFileMoverThread::exists(const QString &src, const QString &folder, bool
 
 void QvexFileMoverThread::abort()
 {
-    cancelThread();
-    m_mover->abort();
+    const QMutexLocker locker(&m_activeMutex);
+    if (m_active) {
+        m_cancelled = true;
+        m_mover->abort();
+    }
+}
+
+QString QvexFileMoverThread::lastError() const
+{
+    return m_mover->lastError();
 }
 
 void QvexFileMoverThread::cancelThread()
@@ -115,6 +138,7 @@ void QvexFileMoverThread::runDownload()
 void QvexFileMoverThread::run(int (QvexFileMover::*transfer)(const QString &, const QString &,
                                                              bool))
 {
+    begin(); // unless start() has done so
     int result = 1;
     for (const QString &source : std::as_const(m_sources)) {
         if (m_cancelled) {
@@ -124,6 +148,6 @@ void QvexFileMoverThread::run(int (QvexFileMover::*transfer)(const QString &, co
         result = (m_mover.get()->*transfer)(source, targetOf(source, m_folder), m_overwrite);
         QCoreApplication::processEvents();
     }
-    m_cancelled = false;
+    end();
     Q_EMIT complete(result);
 }

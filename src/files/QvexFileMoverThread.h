@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMutex>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -32,7 +33,10 @@ public:
     /** Waits for a run that is under way; it ends after the file that is being carried. */
     ~QvexFileMoverThread() override;
 
-    /** Starts carrying local files into a folder of the instrument. Refused while a run goes on. */
+    /**
+     * Starts carrying local files into a folder of the instrument. Refused while a run goes on;
+     * from complete() on, another one may be started. Not from a slot on the worker thread.
+     */
     void uploadFiles(const QVector<QString> &localSources, const QString &remoteFolder,
                      bool overwrite);
     /** Starts carrying files of the instrument into a local folder. Refused while a run goes on. */
@@ -47,14 +51,21 @@ public:
      */
     bool exists(const QString &src, const QString &folder, bool local);
 
-    /** Ends the file that is being carried at its next chunk, and the run with it. Any thread. */
+    /**
+     * Ends the file that is being carried at its next chunk, and the run with it, with result 3.
+     * Without a run it does nothing. From any thread.
+     */
     void abort();
+    /** QvexFileMover::lastError() of the last file carried. From any thread. */
+    QString lastError() const;
 
 public Q_SLOTS:
     /** The body of a run; uploadFiles() has it called on the worker thread. */
     void runUpload();
     void runDownload();
-    /** Ends the run before the next file, with result 3. From any thread. */
+    /**
+     * Ends the run before the next file, with result 3; before a start, that run. From any thread.
+     */
     void cancelThread();
     /** The worker thread has ended. */
     void finished();
@@ -68,6 +79,8 @@ Q_SIGNALS:
 private:
     void start(const QVector<QString> &sources, const QString &folder, bool overwrite,
                void (QvexFileMoverThread::*body)());
+    bool begin();
+    void end();
     void run(int (QvexFileMover::*transfer)(const QString &, const QString &, bool));
 
     FcpAppCORBA *m_controller;
@@ -75,7 +88,8 @@ private:
     QString m_folder;
     bool m_overwrite = false;
     std::atomic<bool> m_cancelled = false;
-    std::atomic<bool> m_running = false;
+    QMutex m_activeMutex; ///< a run ends, or is aborted, but not half of each
+    bool m_active = false;
     const std::unique_ptr<QvexFileMover> m_mover;
     QPointer<QThread> m_thread;
     QThread *m_home = nullptr;
