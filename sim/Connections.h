@@ -1,7 +1,5 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
@@ -23,7 +21,7 @@ struct Connection
     std::uint64_t id = 0; ///< never used again
     std::string host; ///< the client's address
     int socket = -1; ///< the ORB's; valid during a call that came over it
-    ino_t inode = 0; ///< tells this socket from a later one with the same number
+    std::uint64_t inode = 0; ///< tells this socket from a later one with the same number
     std::atomic<bool> gone = false;
     std::atomic<int> longCalls = 0; ///< calls under way that take long
 };

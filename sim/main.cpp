@@ -83,6 +83,14 @@ int run(const Options &options)
 
 } // namespace
 
+#ifdef __SANITIZE_THREAD__
+/// Starting a test forks, which does no harm: the child does nothing but to become the test.
+extern "C" __attribute__((visibility("default"))) const char *__tsan_default_options()
+{
+    return "die_after_fork=0";
+}
+#endif
+
 int main(int argc, char **argv)
 {
     fillStandardStreams();
