@@ -37,16 +37,6 @@ void catchStopSignals()
     std::signal(SIGPIPE, SIG_IGN);
 }
 
-/// A descriptor number of a standard stream must not be given to a socket or file.
-void fillStandardStreams()
-{
-    int fd = 0;
-    do {
-        fd = ::open("/dev/null", O_RDWR);
-    } while (fd >= 0 && fd <= STDERR_FILENO);
-    ::close(fd);
-}
-
 /// Each client takes one, and so does each file that it has open.
 void raiseDescriptorLimit()
 {
@@ -65,11 +55,11 @@ int fail(const QString &error, int code)
 
 int run(const Options &options)
 {
+    catchStopSignals();
     Simulator simulator(options);
     if (const Simulator::ExitCode code = simulator.start(); code != Simulator::Done) {
         return fail(simulator.error(), code);
     }
-    catchStopSignals();
     const Console console(simulator);
     std::printf("fcp-sim: root %s\nfcp-sim: listening on port %u\n",
                 qPrintable(simulator.rootDirectory()), unsigned(simulator.port()));
@@ -93,7 +83,6 @@ extern "C" __attribute__((visibility("default"))) const char *__tsan_default_opt
 
 int main(int argc, char **argv)
 {
-    fillStandardStreams();
     if (argc > 1 && std::strcmp(argv[1], "--test-process") == 0) {
         return runTestProcess(argc, argv);
     }
