@@ -103,8 +103,11 @@ bool Simulator::stop()
 
     m_tests.stop();
     // Politely to those who listen; a client that does not would hold the ORB for seconds.
-    m_connections.cutBlocked();
-    bool isOver = m_clients.stop(500ms);
+    bool isOver = false;
+    for (int attempt = 0; attempt < 10 && !isOver; ++attempt) {
+        m_connections.cutBlocked();
+        isOver = m_clients.stop(50ms);
+    }
     auto destroyed = std::make_shared<std::promise<void>>();
     std::thread([this, destroyed] {
         m_server.destroy();
