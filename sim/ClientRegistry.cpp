@@ -41,7 +41,7 @@ bool ClientRegistry::remove(int client, std::uint64_t connection)
 
 std::vector<int> ClientRegistry::removeConnection(std::uint64_t connection)
 {
-    const std::vector<int> ids = clientsOf(connection);
+    std::vector<int> ids = clientsOf(connection);
     for (const int id : ids) {
         remove(id, connection);
     }

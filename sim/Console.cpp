@@ -63,9 +63,9 @@ void Console::obey(const QByteArray &line)
 
 QByteArray Console::run(const QList<QByteArray> &words, QByteArray &error)
 {
-    const QByteArray command = words.first();
+    const QByteArray &command = words.first();
     const QByteArray argument = words.value(1);
-    const QByteArray line = words.join(' ');
+    QByteArray line = words.join(' ');
     bool isNumber = false;
     const int number = argument.toInt(&isNumber);
     if (command == "event") {

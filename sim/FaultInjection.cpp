@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 #include <map>
+#include <tuple>
 
 #include <omniORB4/CORBA.h>
 #include <omniORB4/callHandle.h>
@@ -61,11 +62,12 @@ void closeConnection(const CallContext &context)
 }
 
 /// Disconnecting a connected socket makes the kernel send a reset, without closing the descriptor.
+/// When the client was faster and the socket is not connected any more, there is nothing to reset.
 void resetConnection(const CallContext &context)
 {
     sockaddr nowhere = {};
     nowhere.sa_family = AF_UNSPEC;
-    ::connect(context.connection->socket, &nowhere, sizeof nowhere);
+    std::ignore = ::connect(context.connection->socket, &nowhere, sizeof nowhere);
     closeConnection(context);
 }
 

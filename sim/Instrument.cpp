@@ -84,7 +84,7 @@ public:
         if (!m_value.isString()) {
             fail(u"a text"_s);
         }
-        const QByteArray bytes = m_value.toString().toUtf8();
+        QByteArray bytes = m_value.toString().toUtf8();
         if (bytes.contains('\0')) {
             fail(u"a text without a NUL character"_s);
         }

@@ -58,6 +58,7 @@ Simulator::ExitCode Simulator::startServer()
     std::vector<std::string> words = m_options.orbWords;
     words.insert(words.begin(), "fcp-sim");
     std::vector<char *> argv;
+    argv.reserve(words.size() + 1);
     for (std::string &word : words) {
         argv.push_back(word.data());
     }

@@ -182,7 +182,8 @@ int Storage::makeDirectory(const std::string &parent, std::string &createdPath) 
         const std::string name =
             number == 1 ? "New Folder" : "New Folder " + std::to_string(number);
         if (::mkdirat(directory.get(), name.c_str(), 0755) == 0) {
-            createdPath = parent + '/' + name;
+            createdPath = parent;
+            createdPath.append("/").append(name);
             return 0;
         }
         if (errno != EEXIST) {
