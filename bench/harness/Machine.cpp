@@ -5,6 +5,11 @@
 #include <QSysInfo>
 #include <QThread>
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdint>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -35,4 +40,22 @@ QString describeMachine()
         .arg(QThread::idealThreadCount())
         .arg(kilobytes / (1024 * 1024), 0, 'f', 0)
         .arg(QSysInfo::prettyProductName(), QSysInfo::kernelVersion().section(u'-', 0, 0));
+}
+
+AwakeProcessors::AwakeProcessors()
+    : m_request(::open("/dev/cpu_dma_latency", O_WRONLY | O_CLOEXEC))
+{
+    // The longest time, in microseconds, that a processor may need to wake; it holds until closed.
+    const std::int32_t longest = 0;
+    if (m_request >= 0 && ::write(m_request, &longest, sizeof longest) != sizeof longest) {
+        ::close(m_request);
+        m_request = -1;
+    }
+}
+
+AwakeProcessors::~AwakeProcessors()
+{
+    if (m_request >= 0) {
+        ::close(m_request);
+    }
 }

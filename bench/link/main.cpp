@@ -69,15 +69,15 @@ std::vector<Row> measure(const Options &options)
     return suite.run();
 }
 
-QString markdownSection(const std::vector<Row> &rows, const Options &options)
+QString markdownSection(const std::vector<Row> &rows, const Options &options,
+                        const QString &machine)
 {
     QString command = u"scripts/bench link"_s;
     if (options.scale != 1) {
         command += u" --scale %1"_s.arg(options.scale);
     }
     return u"Command: `%1`. Date: %2.\nMachine: %3.\n\n%4"_s.arg(
-        command, QDateTime::currentDateTime().toString(Qt::ISODate), describeMachine(),
-        markdownTable(rows));
+        command, QDateTime::currentDateTime().toString(Qt::ISODate), machine, markdownTable(rows));
 }
 
 } // namespace
@@ -87,12 +87,15 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     const QCoreApplication application(argc, argv);
     const Options options = readOptions();
+    const AwakeProcessors awake;
+    const QString machine = describeMachine()
+        + (awake.isGranted() ? u", processors kept awake"_s : u", processors may sleep"_s);
     try {
         const std::vector<Row> rows = measure(options);
-        std::printf("%s\n%s", qPrintable(describeMachine() + u'\n'), qPrintable(plainTable(rows)));
+        std::printf("%s\n\n%s", qPrintable(machine), qPrintable(plainTable(rows)));
         if (!options.markdown.isEmpty()) {
-            const QString error =
-                replaceSection(options.markdown, u"link"_s, markdownSection(rows, options));
+            const QString error = replaceSection(options.markdown, u"link"_s,
+                                                 markdownSection(rows, options, machine));
             if (!error.isEmpty()) {
                 throw std::runtime_error(error.toStdString());
             }
