@@ -9,6 +9,7 @@
 #include "GuardedTest.h"
 #include "Link.h"
 #include "Poll.h"
+#include "ProcessProbe.h"
 #include "TcpProxy.h"
 
 using namespace Qt::StringLiterals;
@@ -107,6 +108,7 @@ void TestThreads::eachLostLinkIsReportedOnce()
         }
     });
 
+    const int descriptors = openDescriptors();
     for (int round = 0; round < rounds; ++round) {
         QVERIFY2(link.connectTo(m_proxy.port()),
                  qPrintable(u"round %1: %2"_s.arg(round).arg(link->lastError())));
@@ -134,6 +136,8 @@ void TestThreads::eachLostLinkIsReportedOnce()
     callers.join();
     QCOMPARE(link.losses(), rounds);
     QCOMPARE(nonsense, 0);
+    // No connection of a lost link is left, on either side of the proxy.
+    QTRY_COMPARE_LE_WITH_TIMEOUT(openDescriptors(), descriptors, 10'000);
 }
 
 void TestThreads::lateFailureDoesNotDropANewerLink()

@@ -1,8 +1,12 @@
 #include <QCoreApplication>
 
+#include <corba/AppFcpCORBAImpl.h>
 #include <corba/BiDirectionalCORBA.h>
 #include <corba/FcpAppCORBA.h>
+#include <corba/FcpRemoteFile.h>
+#include <corba/VexLinkSupervisor.h>
 #include <files/QvexFileMover.h>
+#include <files/QvexFileMoverThread.h>
 
 int main(int argc, char *argv[])
 {
