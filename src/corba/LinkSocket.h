@@ -36,7 +36,7 @@ private:
 class LinkSocket
 {
 public:
-    /** Remembers the connection of @p descriptor; nothing when that is no connected socket. */
+    /** Remembers the connection of @p descriptor; nothing when that is no socket. */
     static std::optional<LinkSocket> of(int descriptor);
 
     /** A descriptor for the time being; null when the ORB has closed the connection. */
