@@ -3,8 +3,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <cstdlib>
-#include <new>
 #include <thread>
 
 #include <csignal>
@@ -12,6 +10,7 @@
 
 #include <files/QvexFileMover.h>
 
+#include "FailingAllocations.h"
 #include "FakeController.h"
 #include "GuardedTest.h"
 #include "Link.h"
@@ -31,9 +30,6 @@ namespace {
 enum Result { Done = 0, Failed = 1, Exists = 2, Aborted = 3 };
 
 constexpr qint64 Chunk = QvexFileMover::ChunkSize;
-
-/// So many allocations of this thread succeed before one fails; negative: all do.
-thread_local int t_allocationsLeft = -1;
 
 QByteArray contentsOf(const QString &path)
 {
@@ -114,27 +110,6 @@ private:
 };
 
 } // namespace
-
-void *operator new(std::size_t size)
-{
-    if (t_allocationsLeft >= 0 && t_allocationsLeft-- == 0) {
-        throw std::bad_alloc();
-    }
-    if (void *memory = std::malloc(size != 0 ? size : 1)) {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-void operator delete(void *memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void *memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 /** Carries single files both ways, with real files at both ends and with what goes wrong. */
 class TestMover : public GuardedTest
@@ -458,8 +433,6 @@ void TestMover::oddAnswers_data()
     row("upload: open raises") << true << Answers {{open, {raised}}} << -1 << 0 << qint64(0);
     row("download: pull raises") << false << Answers {{pull, {bytes(FS_OK, 100), raised}}} << -1
                                  << 0 << qint64(100);
-    row("download: no such result")
-        << false << Answers {{pull, {bytes(9, 100)}}} << -1 << 0 << qint64(0);
 }
 
 void TestMover::oddAnswers()
@@ -550,6 +523,14 @@ void TestMover::lostLinkIsNeverSuccess_data()
                                          .passFirst = number};
             }
         }
+    }
+    // Their replies are a single result, which is none then.
+    for (const char *operation : {"pushFileContents", "closeFile"}) {
+        QTest::addRow("upload, %s: no such result", operation)
+            << true
+            << TcpProxy::Strike {.action = Action::FlipLastByte,
+                                 .direction = Direction::ToClient,
+                                 .operation = operation};
     }
 }
 
@@ -715,11 +696,13 @@ void TestMover::exceptionClosesEverything()
         if (!link->isConnected()) {
             QVERIFY(link.connectTo(m_proxy.port()));
         }
-        t_allocationsLeft = allocations;
-        const int result = upload ? mover.uploadFile(source, remote(u"target"_s), true)
-                                  : mover.downloadFile(remote(u"source"_s), target, true);
-        failed = t_allocationsLeft < 0;
-        t_allocationsLeft = -1;
+        int result = -1;
+        {
+            const FailingAllocations shortage(allocations);
+            result = upload ? mover.uploadFile(source, remote(u"target"_s), true)
+                            : mover.downloadFile(remote(u"source"_s), target, true);
+            failed = shortage.hasFailed();
+        }
         QVERIFY2(result == Failed || (result == Done && contentsOf(target) == contents),
                  qPrintable(u"allocation %1, result %2"_s.arg(allocations).arg(result)));
         QVERIFY(failed || result == Done);
