@@ -1,6 +1,7 @@
 #include "Console.h"
 
 #include <QCoreApplication>
+#include <QHash>
 
 #include <unistd.h>
 
@@ -63,51 +64,76 @@ void Console::obey(const QByteArray &line)
 
 QByteArray Console::run(const QList<QByteArray> &words, QByteArray &error)
 {
-    const QByteArray &command = words.first();
+    using Command = QByteArray (Console::*)(const QList<QByteArray> &, QByteArray &);
+    static const QHash<QByteArray, Command> commands = {
+        {"event", &Console::sendEvent},     {"shutdown", &Console::sendShutDown},
+        {"clients", &Console::listClients}, {"fault", &Console::addFault},
+        {"faults", &Console::listFaults},   {"latency", &Console::setLatency},
+        {"module", &Console::changeModule}, {"help", &Console::help},
+        {"quit", &Console::quit},
+    };
+    const Command command = commands.value(words.first());
+    if (!command) {
+        error = "not understood: \"" + words.join(' ') + "\"; commands are " + Commands;
+        return {};
+    }
+    return (this->*command)(words, error);
+}
+
+QByteArray Console::sendShutDown(const QList<QByteArray> &words, QByteArray &error)
+{
     const QByteArray argument = words.value(1);
-    QByteArray line = words.join(' ');
-    bool isNumber = false;
-    const int number = argument.toInt(&isNumber);
-    if (command == "event") {
-        return sendEvent(words, error);
-    }
-    if (command == "shutdown" && (argument == "0" || argument == "1")) {
+    if (argument == "0" || argument == "1") {
         m_simulator.clients().sendShutDown(argument == "1");
-        return line;
+    } else {
+        error = "expected shutdown 0|1, found \"" + words.join(' ') + '"';
     }
-    if (command == "clients") {
-        return clients();
+    return words.join(' ');
+}
+
+QByteArray Console::addFault(const QList<QByteArray> &words, QByteArray &error)
+{
+    if (words.size() == 2) {
+        error = QByteArray::fromStdString(m_simulator.faults().add(words.at(1).toStdString()));
+    } else {
+        error = "expected fault RULE, found \"" + words.join(' ') + '"';
     }
-    if (command == "fault" && words.size() == 2) {
-        error = QByteArray::fromStdString(m_simulator.faults().add(argument.toStdString()));
-        return line;
+    return words.join(' ');
+}
+
+QByteArray Console::listFaults(const QList<QByteArray> &words, QByteArray &)
+{
+    if (words.value(1) == "clear") {
+        m_simulator.faults().clear();
     }
-    if (command == "faults") {
-        if (argument == "clear") {
-            m_simulator.faults().clear();
-        }
-        QByteArray rules = command;
-        for (const std::string &rule : m_simulator.faults().rules()) {
-            rules += ' ' + QByteArray::fromStdString(rule);
-        }
-        return rules;
+    QByteArray rules = words.first();
+    for (const std::string &rule : m_simulator.faults().rules()) {
+        rules += ' ' + QByteArray::fromStdString(rule);
     }
-    if (command == "latency" && isNumber && number >= 0) {
+    return rules;
+}
+
+QByteArray Console::setLatency(const QList<QByteArray> &words, QByteArray &error)
+{
+    bool isNumber = false;
+    const int number = words.value(1).toInt(&isNumber);
+    if (isNumber && number >= 0) {
         m_simulator.faults().setLatency(std::chrono::milliseconds(number));
-        return line;
+    } else {
+        error = "expected latency MS, found \"" + words.join(' ') + '"';
     }
-    if (command == "module") {
-        return changeModule(words, error);
-    }
-    if (command == "help") {
-        return QByteArray("commands: ") + Commands;
-    }
-    if (command == "quit") {
-        QCoreApplication::quit();
-        return line;
-    }
-    error = "not understood: \"" + line + "\"; commands are " + Commands;
-    return {};
+    return words.join(' ');
+}
+
+QByteArray Console::help(const QList<QByteArray> &, QByteArray &)
+{
+    return QByteArray("commands: ") + Commands;
+}
+
+QByteArray Console::quit(const QList<QByteArray> &words, QByteArray &)
+{
+    QCoreApplication::quit();
+    return words.join(' ');
 }
 
 QByteArray Console::sendEvent(const QList<QByteArray> &words, QByteArray &error)
@@ -141,7 +167,7 @@ QByteArray Console::changeModule(const QList<QByteArray> &words, QByteArray &err
     return words.join(' ');
 }
 
-QByteArray Console::clients() const
+QByteArray Console::listClients(const QList<QByteArray> &, QByteArray &)
 {
     const std::vector<ClientRegistry::Client> clients = m_simulator.clients().clients();
     QByteArray text = "clients " + QByteArray::number(clients.size());

@@ -22,11 +22,17 @@ public:
 private:
     void read();
     void obey(const QByteArray &line);
-    /** @return the answer; empty: @p error says why not */
+    /** Each returns the answer; when it fails, @p error says why instead. */
     QByteArray run(const QList<QByteArray> &words, QByteArray &error);
     QByteArray sendEvent(const QList<QByteArray> &words, QByteArray &error);
+    QByteArray sendShutDown(const QList<QByteArray> &words, QByteArray &error);
+    QByteArray listClients(const QList<QByteArray> &words, QByteArray &error);
+    QByteArray addFault(const QList<QByteArray> &words, QByteArray &error);
+    QByteArray listFaults(const QList<QByteArray> &words, QByteArray &error);
+    QByteArray setLatency(const QList<QByteArray> &words, QByteArray &error);
     QByteArray changeModule(const QList<QByteArray> &words, QByteArray &error);
-    QByteArray clients() const;
+    QByteArray help(const QList<QByteArray> &words, QByteArray &error);
+    QByteArray quit(const QList<QByteArray> &words, QByteArray &error);
 
     Simulator &m_simulator;
     QSocketNotifier m_notifier;

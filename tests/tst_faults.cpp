@@ -108,11 +108,8 @@ const QVector<TestFaults::Fault> &TestFaults::faults()
     static const QVector<Fault> all = {
         {u"refused"_s, false, Fault::Never, cut(TcpProxy::Ending::Reset, true)},
         {u"closed while idle"_s, false, Fault::Never, cut(TcpProxy::Ending::Close, false)},
-        {u"reset while idle"_s, false, Fault::Never, cut(TcpProxy::Ending::Reset, false)},
         {u"reset before the request"_s, false, Fault::Never, onRequest(Action::ResetBefore)},
-        {u"closed before the request"_s, false, Fault::Never, onRequest(Action::CloseBefore)},
         {u"closed inside the request"_s, false, Fault::Never, onRequest(Action::CloseInside)},
-        {u"reset before the reply"_s, false, Fault::Once, onReply(Action::ResetBefore)},
         {u"reset inside the reply"_s, false, Fault::Once, onReply(Action::ResetInside)},
         {u"reply truncated"_s, false, Fault::Once, onReply(Action::CloseInside)},
         {u"garbage for a reply"_s, false, Fault::Once, onReply(Action::BreakMagic)},

@@ -10,10 +10,10 @@
 
 #include <files/QvexFileMover.h>
 
-#include "FailingAllocations.h"
 #include "FakeController.h"
 #include "GuardedTest.h"
 #include "Link.h"
+#include "LocalFiles.h"
 #include "Pattern.h"
 #include "Poll.h"
 #include "SimulatorProcess.h"
@@ -22,38 +22,11 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-using Action = TcpProxy::Action;
-using Direction = TcpProxy::Direction;
-
 namespace {
 
 enum Result { Done = 0, Failed = 1, Exists = 2, Aborted = 3 };
 
 constexpr qint64 Chunk = QvexFileMover::ChunkSize;
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-void writeFile(const QString &path, const QByteArray &contents)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
-        qFatal("Can not write %s", qPrintable(path));
-    }
-}
-
-QStringList openFilesHere()
-{
-    QStringList open;
-    const QDir descriptors(u"/proc/self/fd"_s);
-    for (const QFileInfo &entry : descriptors.entryInfoList(QDir::Files | QDir::System)) {
-        open.append(entry.symLinkTarget());
-    }
-    return open;
-}
 
 /// No file of this process may grow beyond a size while it lives: a disk that is full.
 class FullDisk
@@ -135,15 +108,9 @@ private Q_SLOTS:
     void oddAnswers_data();
     void oddAnswers();
     void closeThatFailsIsNoSuccess();
-    void lostLinkIsNeverSuccess_data();
-    void lostLinkIsNeverSuccess();
-    void reconnectedLinkDoesNotContinue_data();
-    void reconnectedLinkDoesNotContinue();
     void abortEndsAtTheNextChunk_data();
     void abortEndsAtTheNextChunk();
     void abortWithoutTransferDoesNothing();
-    void exceptionClosesEverything_data();
-    void exceptionClosesEverything();
     void progressIsMonotonicAndSparing();
     void slotsUseWhatIsStored();
 
@@ -175,10 +142,7 @@ void TestMover::init()
 void TestMover::cleanup()
 {
     m_directory.reset();
-    const QDir instrument(m_simulator.local(u"/Internal"_s));
-    for (const QFileInfo &entry : instrument.entryInfoList(QDir::Files)) {
-        QFile::remove(entry.filePath());
-    }
+    removeFiles(m_simulator.local(u"/Internal"_s));
     GuardedTest::cleanup();
 }
 
@@ -493,131 +457,6 @@ void TestMover::closeThatFailsIsNoSuccess()
     QCOMPARE(mover.uploadFile(local(u"source"_s), remote(u"target"_s), true), Failed);
 }
 
-void TestMover::lostLinkIsNeverSuccess_data()
-{
-    QTest::addColumn<bool>("upload");
-    QTest::addColumn<TcpProxy::Strike>("strike");
-    struct Fault
-    {
-        const char *name;
-        Action action;
-        Direction direction;
-    };
-    constexpr Fault faults[] = {
-        {"reset before the request", Action::ResetBefore, Direction::ToController},
-        {"reset inside the reply", Action::ResetInside, Direction::ToClient},
-        {"no reply", Action::Swallow, Direction::ToClient},
-    };
-    for (const bool upload : {true, false}) {
-        const char *chunk = upload ? "pushFileContents" : "pullFileContents";
-        const std::pair<const char *, int> calls[] = {
-            {"openFile", 0}, {chunk, 0}, {chunk, 1}, {chunk, 2}, {"closeFile", 0}};
-        for (const auto &[operation, number] : calls) {
-            for (const Fault &fault : faults) {
-                QTest::addRow("%s, %s %d: %s", upload ? "upload" : "download", operation,
-                              number + 1, fault.name)
-                    << upload
-                    << TcpProxy::Strike {.action = fault.action,
-                                         .direction = fault.direction,
-                                         .operation = operation,
-                                         .passFirst = number};
-            }
-        }
-    }
-    // Their replies are a single result, which is none then.
-    for (const char *operation : {"pushFileContents", "closeFile"}) {
-        QTest::addRow("upload, %s: no such result", operation)
-            << true
-            << TcpProxy::Strike {.action = Action::FlipLastByte,
-                                 .direction = Direction::ToClient,
-                                 .operation = operation};
-    }
-}
-
-void TestMover::lostLinkIsNeverSuccess()
-{
-    QFETCH(bool, upload);
-    QFETCH(TcpProxy::Strike, strike);
-    const QByteArray contents = patternBytes(3 * Chunk);
-    const QString source = upload ? local(u"source"_s) : onInstrument(u"source"_s);
-    const QString target = upload ? onInstrument(u"target"_s) : local(u"target"_s);
-    writeFile(source, contents);
-    Link link(strike.action == Action::Swallow ? 300ms : 20s);
-    QVERIFY(link.connectTo(m_proxy.port()));
-    QvexFileMover mover(link.proxy());
-    const auto carry = [&] {
-        return upload ? mover.uploadFile(source, remote(u"target"_s), true)
-                      : mover.downloadFile(remote(u"source"_s), target, true);
-    };
-    m_proxy.strike(strike);
-
-    const int result = carry();
-
-    QCOMPARE(m_proxy.struck(), 1);
-    QCOMPARE(link.losses(), 1);
-    QCOMPARE(link->isConnected(), false);
-    if (upload || strike.operation != "closeFile") {
-        QCOMPARE(result, Failed);
-    } else if (result == Done) {
-        // Everything had arrived before.
-        QVERIFY(contentsOf(target) == contents);
-    }
-    QVERIFY(contentsOf(source) == contents);
-    QCOMPARE(carry(), Failed);
-
-    m_proxy.behave();
-    QVERIFY(link.connectTo(m_proxy.port()));
-    // The controller must not be left with what the lost transfer had open.
-    QVERIFY(pollUntil([&] { return m_simulator.openFiles().isEmpty(); }));
-    QCOMPARE(carry(), Done);
-    QVERIFY(contentsOf(target) == contents);
-    QCOMPARE(m_simulator.openFiles(), QStringList());
-}
-
-void TestMover::reconnectedLinkDoesNotContinue_data()
-{
-    QTest::addColumn<bool>("upload");
-    QTest::addColumn<bool>("lost");
-    QTest::newRow("upload, link replaced") << true << false;
-    QTest::newRow("download, link replaced") << false << false;
-    QTest::newRow("upload, link lost") << true << true;
-    QTest::newRow("download, link lost") << false << true;
-}
-
-void TestMover::reconnectedLinkDoesNotContinue()
-{
-    QFETCH(bool, upload);
-    QFETCH(bool, lost);
-    const QByteArray contents = patternBytes(60 * Chunk);
-    writeFile(upload ? local(u"source"_s) : onInstrument(u"source"_s), contents);
-    Link link;
-    QVERIFY(link.connectTo(m_proxy.port()));
-    const quint64 first = link->linkSerial();
-    QvexFileMover mover(link.proxy());
-    m_simulator.order("latency 20");
-    const QByteArray chunk = upload ? "pushFileContents" : "pullFileContents";
-    const auto before = m_simulator.calls(chunk).size();
-    int result = -1;
-    std::thread transfer([&] {
-        result = upload ? mover.uploadFile(local(u"source"_s), remote(u"target"_s), false)
-                        : mover.downloadFile(remote(u"source"_s), local(u"target"_s), false);
-    });
-    QVERIFY(pollUntil([&] { return m_simulator.calls(chunk).size() > before + 2; }));
-    if (lost) {
-        m_proxy.cutConnections(TcpProxy::Ending::Reset);
-        QVERIFY(pollUntil([&] { return link.losses() == 1; }));
-    }
-    const bool connected = link.connectTo(m_proxy.port());
-    transfer.join();
-    m_simulator.order("latency 0");
-    QVERIFY(connected);
-    QCOMPARE(link->linkSerial(), first + 1);
-    QCOMPARE(result, Failed);
-    QCOMPARE_LT(m_simulator.calls(chunk).size() - before, 60);
-    QCOMPARE(link.losses(), lost ? 1 : 0);
-    QVERIFY(pollUntil([&] { return m_simulator.openFiles().isEmpty(); }, 5s));
-}
-
 void TestMover::abortEndsAtTheNextChunk_data()
 {
     QTest::addColumn<bool>("upload");
@@ -672,44 +511,6 @@ void TestMover::abortWithoutTransferDoesNothing()
     QvexFileMover mover(link.proxy());
     mover.abort();
     QCOMPARE(mover.uploadFile(local(u"source"_s), remote(u"target"_s), false), Done);
-}
-
-void TestMover::exceptionClosesEverything_data()
-{
-    QTest::addColumn<bool>("upload");
-    QTest::newRow("upload") << true;
-    QTest::newRow("download") << false;
-}
-
-void TestMover::exceptionClosesEverything()
-{
-    QFETCH(bool, upload);
-    const QByteArray contents = patternBytes(2 * Chunk);
-    const QString source = upload ? local(u"source"_s) : onInstrument(u"source"_s);
-    const QString target = upload ? onInstrument(u"target"_s) : local(u"target"_s);
-    writeFile(source, contents);
-    Link link;
-    QvexFileMover mover(link.proxy());
-    bool failed = true;
-    // Each allocation that a transfer makes fails in its turn, until none is left to fail.
-    for (int allocations = 0; failed; ++allocations) {
-        if (!link->isConnected()) {
-            QVERIFY(link.connectTo(m_proxy.port()));
-        }
-        int result = -1;
-        {
-            const FailingAllocations shortage(allocations);
-            result = upload ? mover.uploadFile(source, remote(u"target"_s), true)
-                            : mover.downloadFile(remote(u"source"_s), target, true);
-            failed = shortage.hasFailed();
-        }
-        QVERIFY2(result == Failed || (result == Done && contentsOf(target) == contents),
-                 qPrintable(u"allocation %1, result %2"_s.arg(allocations).arg(result)));
-        QVERIFY(failed || result == Done);
-        QVERIFY2(pollUntil([&] { return m_simulator.openFiles().isEmpty(); }, 5s),
-                 qPrintable(u"allocation %1: %2"_s.arg(allocations).arg(link->lastError())));
-        QVERIFY(!openFilesHere().contains(source) && !openFilesHere().contains(target));
-    }
 }
 
 void TestMover::progressIsMonotonicAndSparing()

@@ -9,6 +9,7 @@
 #include "FakeController.h"
 #include "GuardedTest.h"
 #include "Link.h"
+#include "LocalFiles.h"
 #include "Pattern.h"
 #include "Poll.h"
 #include "ProcessProbe.h"
@@ -73,6 +74,7 @@ private Q_SLOTS:
     void cancelLetsTheFileInProgressComplete();
     void abortEndsTheFileInProgress();
     void refusesASecondRunMeanwhile();
+    void nextListMayBeStartedFromComplete();
     void tellsWhatExists();
     void probingClosesWhatItOpened();
     void destructionWaitsForTheRun();
@@ -89,33 +91,11 @@ private:
     std::optional<QTemporaryDir> m_directory;
 };
 
-namespace {
-
-void writeFile(const QString &path, const QByteArray &contents)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
-        qFatal("Can not write %s", qPrintable(path));
-    }
-}
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-} // namespace
-
 void TestMoverThread::init()
 {
     GuardedTest::init();
     m_directory.emplace();
-    const QDir instrument(m_simulator.local(u"/Internal"_s));
-    for (const QFileInfo &entry : instrument.entryInfoList(QDir::Files)) {
-        QFile::remove(entry.filePath());
-    }
+    removeFiles(m_simulator.local(u"/Internal"_s));
 }
 
 QVector<QString> TestMoverThread::makeSources(int count, qsizetype size)
@@ -273,6 +253,27 @@ void TestMoverThread::refusesASecondRunMeanwhile()
     const int result = mover.result();
     m_simulator.order("latency 0");
     QCOMPARE(result, Done);
+}
+
+void TestMoverThread::nextListMayBeStartedFromComplete()
+{
+    const QVector<QString> sources = makeSources(3, 10'000);
+    Link link;
+    QVERIFY(link.connectTo(m_simulator.port()));
+    QvexFileMoverThread mover(link.proxy());
+    QVector<int> results;
+    connect(&mover, &QvexFileMoverThread::complete, this, [&](int result) {
+        results.append(result);
+        if (results.size() < sources.size()) {
+            mover.uploadFiles({sources.at(results.size())}, u"/Internal"_s, false);
+        }
+    });
+    mover.uploadFiles({sources.first()}, u"/Internal"_s, false);
+    QTRY_COMPARE(results, QVector<int>({Done, Done, Done}));
+    for (const QString &source : sources) {
+        QVERIFY(contentsOf(onInstrument(QFileInfo(source).fileName())) == contentsOf(source));
+    }
+    QTRY_VERIFY(mover.thread() == qApp->thread());
 }
 
 void TestMoverThread::tellsWhatExists()

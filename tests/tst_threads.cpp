@@ -10,6 +10,8 @@
 #include "Link.h"
 #include "Poll.h"
 #include "ProcessProbe.h"
+#include "SimulatorProcess.h"
+#include "Sockets.h"
 #include "TcpProxy.h"
 
 using namespace Qt::StringLiterals;
@@ -70,6 +72,8 @@ private Q_SLOTS:
     void callsThatTimeOutTogetherAreOneLoss();
     void timeOutOfOneCallIsOneLossForAll();
     void concurrentConnectingLeavesOneRegistration();
+    void failingConnectIsNoLossOfAnotherThreadsLink();
+    void orbEndsUnderAFloodOfEvents();
 
 private:
     TcpProxy m_proxy;
@@ -224,6 +228,48 @@ void TestThreads::concurrentConnectingLeavesOneRegistration()
     m_controller.sendEvents("CLIENT_STATUS");
     QTRY_VERIFY(link.events().contains(CLIENT_STATUS));
     QCOMPARE(link.events(), QVector<int>({TEST_STATUS, TEST_STATUS, TEST_STATUS, CLIENT_STATUS}));
+}
+
+void TestThreads::failingConnectIsNoLossOfAnotherThreadsLink()
+{
+    constexpr int rounds = 40;
+    const quint16 nobodysPort = [] {
+        const FileDescriptor socket = listenOn(0);
+        return localPort(socket);
+    }();
+    Link link;
+    std::atomic<int> failures = 0;
+    std::thread failing([&] {
+        for (int i = 0; i < rounds; ++i) {
+            failures += link.connectTo(nobodysPort) ? 0 : 1;
+        }
+    });
+    int made = 0;
+    for (int i = 0; i < rounds; ++i) {
+        made += link.connectTo(m_controller.port()) ? 1 : 0;
+    }
+    failing.join();
+    QCOMPARE(failures, rounds);
+    QCOMPARE(made, rounds);
+    QCOMPARE_LE(link.losses(), failures.load());
+    QVERIFY(link.connectTo(m_controller.port()));
+    QCOMPARE(link->isMaximumClientCountOK(), 1L);
+}
+
+void TestThreads::orbEndsUnderAFloodOfEvents()
+{
+    SimulatorProcess simulator;
+    simulator.start();
+    for (int round = 0; round < 5; ++round) {
+        const int threads = runningThreads();
+        {
+            Link link;
+            QVERIFY(link.connectTo(simulator.port()));
+            simulator.sendEvents("TEST_STATUS", 100'000);
+            QTRY_VERIFY(!link.events().isEmpty());
+        }
+        QTRY_COMPARE(runningThreads(), threads);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestThreads)
