@@ -1,6 +1,9 @@
 #include "ProcessProbe.h"
 
 #include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
 
 namespace {
 
@@ -17,6 +20,15 @@ int entries(const char *directory)
 int openDescriptors()
 {
     return entries("/proc/self/fd");
+}
+
+int openSockets()
+{
+    const QDir descriptors(QStringLiteral("/proc/self/fd"));
+    const QFileInfoList all = descriptors.entryInfoList(QDir::AllEntries | QDir::System);
+    return int(std::count_if(all.cbegin(), all.cend(), [](const QFileInfo &descriptor) {
+        return descriptor.symLinkTarget().contains(QLatin1String("socket:"));
+    }));
 }
 
 int runningThreads()
