@@ -1,0 +1,3 @@
+#include "PropertiesLogging.h"
+
+Q_LOGGING_CATEGORY(lcProperties, "vex.properties", QtInfoMsg)
