@@ -9,7 +9,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstring>
 #include <random>
 #include <stdexcept>
@@ -77,13 +76,6 @@ bool isSameFile(const QString &path, const QString &otherPath)
 QString besideThisProgram(const QString &name)
 {
     return QCoreApplication::applicationDirPath() + u'/' + name;
-}
-
-double secondsOf(const std::function<void()> &work)
-{
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
 Workbench::Workbench(const QString &directory, double scale)

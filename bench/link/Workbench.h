@@ -3,13 +3,10 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
+#include "harness/Stopwatch.h"
 
 /** The path of a program that is built together with this one. */
 QString besideThisProgram(const QString &name);
-
-/** The seconds that @p work takes. */
-double secondsOf(const std::function<void()> &work);
 
 /**
  * The files that the benchmarks carry, all in one directory of memory, and their places:
