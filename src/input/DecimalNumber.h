@@ -5,6 +5,8 @@
 #include <compare>
 #include <optional>
 
+#include <VexExport.h>
+
 /**
  * A decimal number with 18 digits after the point, exactly: what a person types and steps through
  * has no binary fractions in it.
@@ -12,7 +14,7 @@
  * It reaches from -2^64 to 2^64, and so holds every 64-bit integer. Arithmetic that would leave
  * this range ends at its limit.
  */
-class DecimalNumber
+class VEX_EXPORT DecimalNumber
 {
 public:
     static constexpr int Decimals = 18;

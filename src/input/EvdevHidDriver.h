@@ -19,7 +19,7 @@ struct input_event;
  * KEY_SELECT as its only key. Devices that come and go are followed; one that goes while its button
  * is held down reports it let go. open() fails when the folder can't be watched.
  */
-class EvdevHidDriver : public VexHidDriver
+class VEX_EXPORT EvdevHidDriver : public VexHidDriver
 {
 public:
     /** Says of an open device whether it is (a part of) the keypad. */

@@ -15,7 +15,7 @@
  * integers. What is stored is what is shown: a value is rounded to the decimals when it is set,
  * and kept within the range.
  */
-class NumericField
+class VEX_EXPORT NumericField
 {
     Q_DECLARE_TR_FUNCTIONS(NumericField)
 

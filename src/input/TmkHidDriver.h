@@ -12,7 +12,7 @@
  *
  * A keypad that is unplugged is looked for again every second, so listen() does not fail for it.
  */
-class TmkHidDriver : public VexHidDriver
+class VEX_EXPORT TmkHidDriver : public VexHidDriver
 {
 public:
     explicit TmkHidDriver(const QString &library = QStringLiteral("tmk_hid"));

@@ -148,11 +148,12 @@ void TestHid::withoutAKeypadNothingHappens()
 {
     m_driver->setPresent(false);
     m_driver->turn(1);
-    const int threads = runningThreads();
+    int threads = 0; // also that of the test before has ended
+    QTRY_COMPARE(threads = runningThreads(), 1);
     listen();
     QTRY_COMPARE(VexHID::Instance()->isListening(), false);
     VexHID::Destroy();
-    QCOMPARE(runningThreads(), threads);
+    QTRY_COMPARE(runningThreads(), threads);
     QCOMPARE(m_signals, QStringList());
 }
 
