@@ -1,0 +1,134 @@
+#include "GestureButton.h"
+
+#include <QMouseEvent>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize FingerSize {48, 48};
+constexpr QSize IconSize {16, 16};
+
+} // namespace
+
+GestureButton::GestureButton(QWidget *parent)
+    : QPushButton(parent)
+{
+    setStyleSheet(u"QPushButton { background-color: none; border: 0px; }"_s);
+    setIconSize(IconSize);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+QSize GestureButton::sizeHint() const
+{
+    return QPushButton::sizeHint().expandedTo(FingerSize);
+}
+
+bool GestureButton::finishTouch()
+{
+    m_touch = Touch::Over;
+    if (!isDown()) {
+        return true;
+    }
+    const QPointer<GestureButton> self(this);
+    setDown(false);
+    Q_EMIT released();
+    return !self.isNull();
+}
+
+bool GestureButton::isLostBy(const QEvent &event) const
+{
+    switch (event.type()) {
+    case QEvent::Hide:
+        return true;
+    case QEvent::EnabledChange:
+        return !isEnabled();
+    case QEvent::WindowBlocked:
+    case QEvent::WindowDeactivate:
+        // The finger's release may go elsewhere now. A tap that is over keeps its report.
+        return m_touch == Touch::Held;
+    default:
+        return false;
+    }
+}
+
+bool GestureButton::event(QEvent *event)
+{
+    if (isLostBy(*event)) {
+        stopTimers();
+        if (m_touch == Touch::Held && !finishTouch()) {
+            return true;
+        }
+    }
+    return QPushButton::event(event);
+}
+
+/// Slots may delete the button, or open a dialog that keeps the release of the finger to itself.
+bool GestureButton::staysHeldDuring(void (GestureButton::*report)())
+{
+    m_touch = Touch::Held;
+    const QPointer<GestureButton> self(this);
+    (this->*report)();
+    return self && m_touch == Touch::Held;
+}
+
+void GestureButton::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QPushButton::mousePressEvent(event);
+        return;
+    }
+    if (m_touch == Touch::Held && event->type() == QEvent::MouseButtonPress) {
+        stopTimers(); // the release of the touch before was lost
+    }
+    if (staysHeldDuring(&GestureButton::settleTap)) {
+        m_position = event->position().toPoint();
+        touchStarted();
+        QPushButton::mousePressEvent(event);
+    }
+}
+
+void GestureButton::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_touch == Touch::Held && !hitButton(event->position().toPoint())) {
+        stopTimers();
+        if (!finishTouch()) {
+            return;
+        }
+    }
+    if (m_touch != Touch::Over) {
+        QPushButton::mouseMoveEvent(event);
+    }
+}
+
+void GestureButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton) {
+        m_position = event->position().toPoint();
+        if (m_touch == Touch::Held) {
+            const QPointer<GestureButton> self(this);
+            touchEnded(hitButton(m_position));
+            if (!self) {
+                return;
+            }
+        }
+        if (m_touch == Touch::Held) {
+            m_touch = Touch::None;
+        }
+    }
+    QPushButton::mouseReleaseEvent(event);
+}
+
+void GestureButton::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // A tap soon after a long press, or after one that slid off, is the first of its kind.
+    if (event->button() == Qt::LeftButton && m_touch != Touch::Over) {
+        m_position = event->position().toPoint();
+        if (!staysHeldDuring(&GestureButton::doubleTapped)) {
+            return;
+        }
+    }
+    // Skips the button's own handler: the widget's makes a press of it.
+    QWidget::mouseDoubleClickEvent(event);
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "VexExport.h"
+
+/**
+ * What the buttons that tell gestures apart have in common: their look, and how one touch is
+ * followed from its press to its end.
+ *
+ * A touch is reported once. It ends without a report when the finger leaves the button, coming back
+ * does not resume it, and when the button is hidden or disabled or its window is taken away under
+ * the finger: no timer runs and the button is not down then. The signals of QPushButton go on
+ * beside the gestures, with the same rule: a touch that was a long press, or that has left, is
+ * released() but never clicked().
+ *
+ * Only the left button of a mouse makes gestures. A touch arrives as the events of a mouse, the
+ * second of two quick ones as a double click; further fingers on the button are not seen.
+ *
+ * The size hint is at least 48 x 48, so that a finger meets it.
+ */
+class VEX_EXPORT GestureButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    QSize sizeHint() const override;
+
+protected:
+    explicit GestureButton(QWidget *parent);
+
+    /** Where the last press, release or double click was, in coordinates of the widget. */
+    QPoint lastPosition() const { return m_position; }
+    /**
+     * Ends the touch: the button comes up and stays so until the next press, and nothing is
+     * clicked. @return false when a slot has deleted the button.
+     */
+    [[nodiscard]] bool finishTouch();
+
+    /** A press follows: reports a tap that still waits for a second one, at lastPosition(). */
+    virtual void settleTap() { }
+    /** The press is remembered and about to be handed on. */
+    virtual void touchStarted() = 0;
+    /** The touch is over; @p isTap says that the finger was lifted on the button. */
+    virtual void touchEnded(bool isTap) = 0;
+    /** A second tap came in time; its press follows. */
+    virtual void doubleTapped() { }
+    /** Nothing may be reported later than now. */
+    virtual void stopTimers() = 0;
+
+    bool event(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+private:
+    /** Over: nothing comes of this touch any more; lasts until the next press. */
+    enum class Touch { None, Held, Over };
+
+    bool isLostBy(const QEvent &event) const;
+    [[nodiscard]] bool staysHeldDuring(void (GestureButton::*report)());
+
+    QPoint m_position;
+    Touch m_touch = Touch::None;
+};
