@@ -8,6 +8,7 @@ constexpr int LongPressMs = 300;
 
 DelayClickButton::DelayClickButton(QWidget *parent)
     : GestureButton(parent)
+    , m_delayTimer(this)
 {
     m_delayTimer.setSingleShot(true);
     m_delayTimer.setTimerType(Qt::PreciseTimer);

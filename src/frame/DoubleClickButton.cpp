@@ -10,6 +10,7 @@ constexpr int ClickMarginMs = 50;
 
 DoubleClickButton::DoubleClickButton(QWidget *parent)
     : GestureButton(parent)
+    , m_clickTimer(this)
 {
     m_clickTimer.setSingleShot(true);
     // A coarse timer may fire before the platform gives up on a second tap.
@@ -56,5 +57,6 @@ void DoubleClickButton::stopTimers()
 
 void DoubleClickButton::timeout()
 {
+    closeTouch();
     Q_EMIT mouseSingleClicked(lastPosition());
 }

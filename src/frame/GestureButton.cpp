@@ -1,5 +1,6 @@
 #include "GestureButton.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
 
@@ -25,9 +26,16 @@ QSize GestureButton::sizeHint() const
     return QPushButton::sizeHint().expandedTo(FingerSize);
 }
 
+void GestureButton::remember(const QMouseEvent &event)
+{
+    m_position = event.position().toPoint();
+    m_time = event.timestamp();
+}
+
 bool GestureButton::finishTouch()
 {
     m_touch = Touch::Over;
+    closeTouch();
     if (!isDown()) {
         return true;
     }
@@ -83,7 +91,8 @@ void GestureButton::mousePressEvent(QMouseEvent *event)
         stopTimers(); // the release of the touch before was lost
     }
     if (staysHeldDuring(&GestureButton::settleTap)) {
-        m_position = event->position().toPoint();
+        remember(*event);
+        m_isClosed = false;
         touchStarted();
         QPushButton::mousePressEvent(event);
     }
@@ -105,7 +114,7 @@ void GestureButton::mouseMoveEvent(QMouseEvent *event)
 void GestureButton::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton) {
-        m_position = event->position().toPoint();
+        remember(*event);
         if (m_touch == Touch::Held) {
             const QPointer<GestureButton> self(this);
             touchEnded(hitButton(m_position));
@@ -113,18 +122,22 @@ void GestureButton::mouseReleaseEvent(QMouseEvent *event)
                 return;
             }
         }
-        if (m_touch == Touch::Held) {
-            m_touch = Touch::None;
-        }
+        m_touch = Touch::None;
     }
     QPushButton::mouseReleaseEvent(event);
 }
 
+/// The platform also calls it a double click when the first touch was long, or slid off.
+bool GestureButton::joinsLastTouch(const QMouseEvent &event) const
+{
+    const auto interval = static_cast<quint64>(QApplication::doubleClickInterval());
+    return !m_isClosed || event.timestamp() - m_time > interval;
+}
+
 void GestureButton::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    // A tap soon after a long press, or after one that slid off, is the first of its kind.
-    if (event->button() == Qt::LeftButton && m_touch != Touch::Over) {
-        m_position = event->position().toPoint();
+    if (event->button() == Qt::LeftButton && joinsLastTouch(*event)) {
+        remember(*event);
         if (!staysHeldDuring(&GestureButton::doubleTapped)) {
             return;
         }

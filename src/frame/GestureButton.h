@@ -36,6 +36,8 @@ protected:
      * clicked. @return false when a slot has deleted the button.
      */
     [[nodiscard]] bool finishTouch();
+    /** The touch has been reported: no second tap joins it any more. */
+    void closeTouch() { m_isClosed = true; }
 
     /** A press follows: reports a tap that still waits for a second one, at lastPosition(). */
     virtual void settleTap() { }
@@ -55,12 +57,16 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
-    /** Over: nothing comes of this touch any more; lasts until the next press. */
+    /** Over: the finger may still be down, but nothing comes of it any more. */
     enum class Touch { None, Held, Over };
 
     bool isLostBy(const QEvent &event) const;
+    bool joinsLastTouch(const QMouseEvent &event) const;
+    void remember(const QMouseEvent &event);
     [[nodiscard]] bool staysHeldDuring(void (GestureButton::*report)());
 
     QPoint m_position;
+    quint64 m_time = 0; ///< of the same event
     Touch m_touch = Touch::None;
+    bool m_isClosed = false;
 };

@@ -1,22 +1,18 @@
 #include "RoundedRect.h"
 
 #include <algorithm>
+#include <cmath>
 
 QRegion roundedRect(const QRect &rect, int radius)
 {
-    const int fitting = std::min({radius, rect.width() / 2, rect.height() / 2});
-    if (fitting < 1) {
-        return QRegion(rect);
-    }
-    QRect circle(rect.topLeft(), QSize(2 * fitting, 2 * fitting));
-    QRegion region = QRegion(rect.adjusted(fitting, 0, -fitting, 0))
-        + QRegion(rect.adjusted(0, fitting, 0, -fitting));
-    for (const bool atRight : {false, true}) {
-        for (const bool atBottom : {false, true}) {
-            circle.moveTo(atRight ? rect.x() + rect.width() - circle.width() : rect.x(),
-                          atBottom ? rect.y() + rect.height() - circle.height() : rect.y());
-            region += QRegion(circle, QRegion::Ellipse);
-        }
+    const int fitting = std::max(0, std::min({radius, rect.width() / 2, rect.height() / 2}));
+    QRegion region(rect.adjusted(0, fitting, 0, -fitting));
+    for (int row = 0; row < fitting; ++row) {
+        const double height = fitting - row - 0.5; // of the middle of the row above the centre
+        const int cut = fitting - qRound(std::sqrt(fitting * fitting - height * height));
+        const QRect span(rect.x() + cut, rect.y() + row, rect.width() - 2 * cut, 1);
+        region += span;
+        region += span.translated(0, rect.height() - 1 - 2 * row);
     }
     return region;
 }

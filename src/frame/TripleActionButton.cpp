@@ -11,6 +11,8 @@ constexpr int ClickMarginMs = 10;
 
 TripleActionButton::TripleActionButton(QWidget *parent)
     : GestureButton(parent)
+    , m_clickTimer(this)
+    , m_delayTimer(this)
 {
     for (QTimer *timer : {&m_clickTimer, &m_delayTimer}) {
         timer->setSingleShot(true);
@@ -63,6 +65,7 @@ void TripleActionButton::stopTimers()
 void TripleActionButton::timeout()
 {
     if (!isDown()) {
+        closeTouch();
         Q_EMIT mouseSingleClicked(lastPosition());
         return;
     }
