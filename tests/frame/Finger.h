@@ -4,8 +4,6 @@
 #include <QTest>
 #include <QWidget>
 
-#include <utility>
-
 /** A finger on a touch screen. Places are in coordinates of the window. */
 class Finger
 {
@@ -15,19 +13,9 @@ public:
     {
     }
 
-    void press(QPoint place)
-    {
-        m_isDown = true;
-        touch().press(0, m_place = place, &m_window);
-    }
+    void press(QPoint place) { touch().press(0, m_place = place, &m_window); }
     void moveTo(QPoint place) { touch().move(0, m_place = place, &m_window); }
-    /** If it is down. */
-    void lift()
-    {
-        if (std::exchange(m_isDown, false)) {
-            touch().release(0, m_place, &m_window);
-        }
-    }
+    void lift() { touch().release(0, m_place, &m_window); }
     void tap(QPoint place) { press(place), lift(); }
     /** While this one stays. */
     void tapWithAnother(QPoint place)
@@ -45,5 +33,4 @@ private:
 
     QWidget &m_window;
     QPoint m_place;
-    bool m_isDown = false;
 };

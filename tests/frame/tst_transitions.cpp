@@ -15,25 +15,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class EventCount : public QObject
+struct EventCount : QObject
 {
-public:
-    EventCount(QObject *watched, const QList<QEvent::Type> &types)
-        : m_types(types)
+    EventCount(QObject *watched, const QList<QEvent::Type> &counted)
+        : types(counted)
     {
         watched->installEventFilter(this);
     }
-
-    int count = 0;
-
-private:
     bool eventFilter(QObject *, QEvent *event) override
     {
-        count += m_types.contains(event->type()) ? 1 : 0;
+        count += types.contains(event->type()) ? 1 : 0;
         return false;
     }
 
-    QList<QEvent::Type> m_types;
+    QList<QEvent::Type> types;
+    int count = 0;
 };
 
 /// Four pages, the second of which is shown.
@@ -67,7 +63,8 @@ struct Stack
     {
         for (QWidget *page : stack->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
             const bool isCurrent = page == stack->currentWidget();
-            if (page->isHidden() == isCurrent || (isCurrent && page->geometry() != stack->rect())) {
+            if (page->isHidden() == isCurrent || !page->pos().isNull()
+                || (isCurrent && page->size() != stack->size())) {
                 return -2;
             }
         }
