@@ -10,16 +10,7 @@
 
 namespace {
 
-/// What the styles of Qt leave between a button's icon and its text.
-constexpr int IconSpacing = 4;
-
-int textWidth(const QStyleOptionButton &label)
-{
-    const int icon = label.icon.isNull() ? 0 : label.iconSize.width() + IconSpacing;
-    return label.rect.width() - icon;
-}
-
-int textWidth(const QPushButton &button)
+int roomForText(const QPushButton &button)
 {
     QStyleOptionButton option;
     option.initFrom(&button);
@@ -27,7 +18,7 @@ int textWidth(const QPushButton &button)
     option.iconSize = button.iconSize();
     option.text = button.text();
     option.rect = button.style()->subElementRect(QStyle::SE_PushButtonContents, &option, &button);
-    return textWidth(option);
+    return roomForText(option);
 }
 
 } // namespace
@@ -45,10 +36,8 @@ void ElidedButtonStyle::drawControl(ControlElement element, const QStyleOption *
         QProxyStyle::drawControl(element, option, painter, widget);
         return;
     }
-    // The styles centre icon and text together: a text too long would push the icon out.
     QStyleOptionButton fitting = *label;
-    fitting.text = elidedText(label->fontMetrics, label->text, Qt::ElideRight, textWidth(*label),
-                              Qt::TextShowMnemonic);
+    fitting.text = elidedText(*label);
     QProxyStyle::drawControl(element, &fitting, painter, widget);
 }
 
@@ -80,7 +69,7 @@ bool ElidedButtonStyle::eventFilter(QObject *watched, QEvent *event)
     auto *button = qobject_cast<QPushButton *>(watched);
     if (button && event->type() == QEvent::ToolTip) {
         return showWholeText(button, *static_cast<QHelpEvent *>(event), button->text(),
-                             textWidth(*button));
+                             roomForText(*button));
     }
     return QProxyStyle::eventFilter(watched, event);
 }

@@ -3,10 +3,14 @@
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QStringList>
+#include <QStyleOptionButton>
 #include <QToolTip>
 #include <QWidget>
 
 namespace {
+
+/// What the styles of Qt leave between a button's icon and its text.
+constexpr int IconSpacing = 4;
 
 /// Without the "&" of its mnemonics.
 QString readable(const QString &text)
@@ -35,6 +39,17 @@ QString elidedText(const QFontMetrics &metrics, const QString &text, Qt::TextEli
         line = metrics.elidedText(line, mode, width, hasMnemonics ? Qt::TextShowMnemonic : 0);
     }
     return lines.join(u'\n');
+}
+
+QString elidedText(const QStyleOptionButton &button)
+{
+    return elidedText(button.fontMetrics, button.text, Qt::ElideRight, roomForText(button),
+                      Qt::TextShowMnemonic);
+}
+
+int roomForText(const QStyleOptionButton &button)
+{
+    return button.rect.width() - (button.icon.isNull() ? 0 : button.iconSize.width() + IconSpacing);
 }
 
 bool showWholeText(QWidget *widget, const QHelpEvent &event, const QString &text, int width)

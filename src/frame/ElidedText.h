@@ -4,6 +4,7 @@
 
 class QFontMetrics;
 class QHelpEvent;
+class QStyleOptionButton;
 class QWidget;
 
 /** @file What the styles that cut texts share. */
@@ -14,6 +15,13 @@ class QWidget;
  */
 QString elidedText(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode,
                    int width, int flags);
+
+/**
+ * The text of a push button, cut to what its rectangle leaves beside the icon. The styles of Qt
+ * centre icon and text together, so that a text too long would push the icon out.
+ */
+QString elidedText(const QStyleOptionButton &button);
+int roomForText(const QStyleOptionButton &button);
 
 /**
  * Answers a tool tip event with the whole of a text that does not fit in @p width.

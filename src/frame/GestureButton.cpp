@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QStyleOptionButton>
+
+#include "ElidedText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +27,13 @@ GestureButton::GestureButton(QWidget *parent)
 QSize GestureButton::sizeHint() const
 {
     return QPushButton::sizeHint().expandedTo(FingerSize);
+}
+
+/// With a style sheet, no style below it is asked where icon and text go.
+void GestureButton::initStyleOption(QStyleOptionButton *option) const
+{
+    QPushButton::initStyleOption(option);
+    option->text = elidedText(*option);
 }
 
 void GestureButton::remember(const QMouseEvent &event)

@@ -17,7 +17,8 @@
  * Only the left button of a mouse makes gestures. A touch arrives as the events of a mouse, the
  * second of two quick ones as a double click; further fingers on the button are not seen.
  *
- * The size hint is at least 48 x 48, so that a finger meets it.
+ * The size hint is at least 48 x 48, so that a finger meets it. A text that is too long is cut with
+ * an ellipsis at its end.
  */
 class VEX_EXPORT GestureButton : public QPushButton
 {
@@ -50,6 +51,7 @@ protected:
     /** Nothing may be reported later than now. */
     virtual void stopTimers() = 0;
 
+    void initStyleOption(QStyleOptionButton *option) const override;
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
