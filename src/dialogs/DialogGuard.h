@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QKeyEvent>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class QvexDialog;
+
+/**
+ * Keeps touches and keys away from what is behind the shown dialogs, and the focus inside.
+ *
+ * Dialogs are child widgets, so the toolkit's own modality, which is one of windows, can't do this.
+ * There is one guard for the application; it filters all events of its widgets.
+ */
+class DialogGuard : public QObject
+{
+    Q_OBJECT
+
+public:
+    static DialogGuard &instance();
+
+    /** Puts @p dialog above those shown before it. A running one gets the focus. */
+    void add(QvexDialog *dialog, QWidget *border, QWidget *shield);
+    /** Gives the focus of a dialog that ran back to where it was. Does nothing if not added. */
+    void remove(QvexDialog *dialog);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Entry
+    {
+        QvexDialog *dialog;
+        QWidget *border;
+        QWidget *shield;
+        QPointer<QWidget> focusBefore;
+
+        bool contains(const QWidget *widget) const;
+        bool isPart(const QObject *object) const;
+    };
+
+    DialogGuard();
+    const Entry *newestBlocking() const;
+    bool isOpenTo(const QWidget *widget) const;
+    bool isOpenToOwner(const QObject *owner) const;
+    void raiseAbove(const QWidget *widget);
+    void keepFocus(QWidget *now);
+
+    bool filterPointer(QWidget *widget, QEvent *event);
+    bool filterPress(QWidget *widget);
+    bool filterRelease(QWidget *widget, const QMouseEvent &event);
+    bool filterKey(QWidget *widget, QKeyEvent *event);
+    bool filterShortcut(const QObject *owner);
+
+    QList<Entry> m_entries;
+    bool m_pressSwallowed = false;
+    QPointer<QvexDialog> m_tappedOutside;
+    std::unique_ptr<QKeyEvent> m_lastOverride;
+};

@@ -1,0 +1,272 @@
+#include "QvexDialogBorder.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QHash>
+#include <QLabel>
+#include <QToolButton>
+
+#include "DialogTheme.h"
+#include "DialogsLogging.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QToolButton *makeButton(const QString &name, const QString &icon, const QSize &iconSize,
+                        QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setIcon(QIcon(icon));
+    button->setIconSize(iconSize);
+    // A tap must not take the focus out of the dialog; the keyboard has keys of its own.
+    button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}
+
+} // namespace
+
+struct QvexDialogBorder::Private
+{
+    explicit Private(QvexDialogBorder *border)
+        : q(border)
+    {
+    }
+
+    void makeHeader(bool withButtons);
+    void makeBars();
+    void updateTexts();
+    void updateHeader();
+    void elideTitle();
+    QRect panelRect() const;
+    void placeBars();
+
+    QvexDialogBorder *const q;
+    QFrame *panel = nullptr;
+    QFrame *header = nullptr;
+    QLabel *titleLabel = nullptr;
+    QToolButton *helpButton = nullptr;
+    QToolButton *closeButton = nullptr;
+    QHash<Direction, QToolButton *> bars;
+    QString title;
+    bool titleVisible = true;
+    bool movable = false;
+};
+
+void QvexDialogBorder::Private::makeHeader(bool withButtons)
+{
+    panel = new QFrame(q);
+    panel->setObjectName(u"DlgBackFrame"_s);
+    header = new QFrame(panel);
+    header->setObjectName(u"DlgHeader"_s);
+    titleLabel = new QLabel(header);
+    titleLabel->setObjectName(u"DlgTitleLabel"_s);
+    titleLabel->setTextFormat(Qt::PlainText);
+    titleLabel->setStyleSheet(u"QLabel#DlgTitleLabel { color: green; font-size: 18px; "
+                              "font-weight: normal; }"_s);
+    helpButton =
+        makeButton(u"DlgHelpButton"_s, u":/help-icon-48.png"_s, DialogTheme::headerIcon, header);
+    closeButton =
+        makeButton(u"DlgCloseButton"_s, u":/close-icon-48.png"_s, DialogTheme::headerIcon, header);
+    helpButton->hide();
+    closeButton->setVisible(withButtons);
+    for (QToolButton *button : {helpButton, closeButton}) {
+        button->setFixedSize(DialogTheme::headerHeight, DialogTheme::headerHeight);
+    }
+    auto *row = new QHBoxLayout(header);
+    row->setContentsMargins(DialogTheme::spacing, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(titleLabel, 1);
+    row->addWidget(helpButton);
+    row->addWidget(closeButton);
+}
+
+void QvexDialogBorder::Private::makeBars()
+{
+    const QList<std::pair<Direction, QString>> names {
+        {Up, u"up"_s}, {Down, u"down"_s}, {Left, u"left"_s}, {Right, u"right"_s}};
+    for (const auto &[direction, name] : names) {
+        QToolButton *bar = makeButton(u"DlgMoveBar_%1"_s.arg(name),
+                                      u":/images/bar_%1.png"_s.arg(name), DialogTheme::barIcon, q);
+        bar->setAutoRepeat(true);
+        bars.insert(direction, bar);
+    }
+}
+
+void QvexDialogBorder::Private::updateTexts()
+{
+    helpButton->setAccessibleName(tr("Help"));
+    closeButton->setAccessibleName(tr("Close"));
+    const QHash<Direction, QString> names {{Up, tr("Move up")},
+                                           {Down, tr("Move down")},
+                                           {Left, tr("Move left")},
+                                           {Right, tr("Move right")}};
+    for (auto bar = bars.cbegin(); bar != bars.cend(); ++bar) {
+        bar.value()->setAccessibleName(names.value(bar.key()));
+    }
+}
+
+void QvexDialogBorder::Private::updateHeader()
+{
+    titleLabel->setVisible(titleVisible);
+    const bool titled = titleVisible && !title.isEmpty();
+    header->setVisible(titled || !helpButton->isHidden() || !closeButton->isHidden());
+}
+
+void QvexDialogBorder::Private::elideTitle()
+{
+    titleLabel->ensurePolished();
+    const QString elided =
+        titleLabel->fontMetrics().elidedText(title, Qt::ElideRight, titleLabel->width());
+    titleLabel->setText(elided);
+    titleLabel->setToolTip(elided == title ? QString() : title);
+}
+
+QRect QvexDialogBorder::Private::panelRect() const
+{
+    const int bar = movable ? DialogTheme::barThickness : 0;
+    return q->rect().adjusted(bar, bar, -bar, -bar);
+}
+
+void QvexDialogBorder::Private::placeBars()
+{
+    const QRect all = q->rect();
+    const QRect inner = panelRect();
+    const int thickness = DialogTheme::barThickness;
+    const int length = DialogTheme::barLength;
+    const auto horizontal = [&](int y) {
+        const int wide = qMin(length, inner.width());
+        return QRect(inner.center().x() - wide / 2, y, wide, thickness);
+    };
+    const auto vertical = [&](int x) {
+        const int high = qMin(length, inner.height());
+        return QRect(x, inner.center().y() - high / 2, thickness, high);
+    };
+    bars.value(Up)->setGeometry(horizontal(all.top()));
+    bars.value(Down)->setGeometry(horizontal(inner.bottom() + 1));
+    bars.value(Left)->setGeometry(vertical(all.left()));
+    bars.value(Right)->setGeometry(vertical(inner.right() + 1));
+}
+
+QvexDialogBorder::QvexDialogBorder(bool withButtons, bool movable, QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<Private>(this))
+{
+    setObjectName(u"DlgBorder"_s);
+    setAttribute(Qt::WA_NoMousePropagation);
+    d->movable = movable;
+    d->makeHeader(withButtons);
+    if (movable) {
+        d->makeBars();
+    }
+    d->updateTexts();
+    d->updateHeader();
+    setStyleSheet(DialogTheme::borderStyle());
+}
+
+QvexDialogBorder::~QvexDialogBorder() = default;
+
+bool QvexDialogBorder::isMovable() const
+{
+    return d->movable;
+}
+
+QMargins QvexDialogBorder::panelMargins() const
+{
+    const int padding = DialogTheme::panelPadding;
+    const int top = d->header->isHidden() ? padding : DialogTheme::headerHeight + 1 + padding;
+    return {padding, top, padding, padding};
+}
+
+QMargins QvexDialogBorder::margins() const
+{
+    return panelMargins() + (d->movable ? DialogTheme::barThickness : 0);
+}
+
+QAbstractButton *QvexDialogBorder::closeButton() const
+{
+    return d->closeButton;
+}
+
+QAbstractButton *QvexDialogBorder::helpButton() const
+{
+    return d->helpButton;
+}
+
+QAbstractButton *QvexDialogBorder::moveBar(Direction direction) const
+{
+    return d->bars.value(direction);
+}
+
+void QvexDialogBorder::setTitle(const QString &title)
+{
+    d->title = title;
+    d->updateHeader();
+    d->elideTitle();
+}
+
+void QvexDialogBorder::setTitleVisible(bool visible)
+{
+    d->titleVisible = visible;
+    d->updateHeader();
+}
+
+void QvexDialogBorder::setCloseVisible(bool visible)
+{
+    d->closeButton->setVisible(visible);
+    d->updateHeader();
+}
+
+void QvexDialogBorder::setHelpVisible(bool visible)
+{
+    d->helpButton->setVisible(visible);
+    d->updateHeader();
+}
+
+void QvexDialogBorder::setVisible(bool visible)
+{
+    if (visible && !parentWidget()) {
+        qCWarning(lcDialogs, "QvexDialogBorder::show() NULL parent");
+        return;
+    }
+    QWidget::setVisible(visible);
+}
+
+QWidget *QvexDialogBorder::applicationWindow(QWidget *widget)
+{
+    for (QWidget *ancestor = widget; ancestor; ancestor = ancestor->parentWidget()) {
+        if (ancestor->objectName() == "FwMainWindow"_L1) {
+            return ancestor;
+        }
+    }
+    return widget->window();
+}
+
+void QvexDialogBorder::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        d->updateTexts();
+    }
+}
+
+void QvexDialogBorder::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const QRect panel = d->panelRect();
+    d->panel->setGeometry(panel);
+    d->header->setGeometry(1, 1, panel.width() - 2, DialogTheme::headerHeight);
+    // Between the bars there is nothing of the border to be touched.
+    QRegion touchable(panel);
+    if (d->movable) {
+        d->placeBars();
+        for (const QToolButton *bar : std::as_const(d->bars)) {
+            touchable += bar->geometry();
+        }
+    }
+    setMask(touchable);
+    d->header->layout()->activate();
+    d->elideTitle();
+}
