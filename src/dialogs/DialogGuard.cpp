@@ -17,20 +17,6 @@ bool canTakeFocus(const QWidget *widget, const QWidget *dialog)
         && widget->isVisibleTo(dialog);
 }
 
-/// Gives the focus to the widget in @p dialog that had it last, else to the first.
-void moveFocusInto(QvexDialog *dialog)
-{
-    QWidget *target = dialog->focusWidget();
-    if (!canTakeFocus(target, dialog)) {
-        target = dialog->nextInFocusChain();
-        while (target != dialog
-               && !(target->focusPolicy() & Qt::TabFocus && canTakeFocus(target, dialog))) {
-            target = target->nextInFocusChain();
-        }
-    }
-    target->setFocus(Qt::OtherFocusReason);
-}
-
 /// Lets a widget go that was pressed before the dialog came, without a click.
 void releaseElsewhere(QWidget *widget, const QMouseEvent &event)
 {
@@ -76,9 +62,19 @@ bool DialogGuard::Entry::isPart(const QObject *object) const
 void DialogGuard::add(QvexDialog *dialog, QWidget *border, QWidget *shield)
 {
     m_entries.append({dialog, border, shield, QApplication::focusWidget()});
-    if (dialog->isRunning()) {
-        moveFocusInto(dialog);
+}
+
+void DialogGuard::moveFocusInto(QvexDialog *dialog, QWidget *first)
+{
+    QWidget *target = first ? first : dialog->focusWidget();
+    if (!canTakeFocus(target, dialog)) {
+        target = dialog->nextInFocusChain();
+        while (target != dialog
+               && !(target->focusPolicy() & Qt::TabFocus && canTakeFocus(target, dialog))) {
+            target = target->nextInFocusChain();
+        }
     }
+    target->setFocus(Qt::OtherFocusReason);
 }
 
 void DialogGuard::remove(QvexDialog *dialog)

@@ -22,8 +22,10 @@ class DialogGuard : public QObject
 public:
     static DialogGuard &instance();
 
-    /** Puts @p dialog above those shown before it. A running one gets the focus. */
+    /** @p dialog is above those that were added before it. */
     void add(QvexDialog *dialog, QWidget *border, QWidget *shield);
+    /** Gives the focus to @p first, else to the first in @p dialog, which was added. */
+    static void moveFocusInto(QvexDialog *dialog, QWidget *first = nullptr);
     /** Gives the focus of a dialog that ran back to where it was. Does nothing if not added. */
     void remove(QvexDialog *dialog);
 

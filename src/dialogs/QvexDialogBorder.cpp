@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QHash>
 #include <QLabel>
+#include <QStyle>
 #include <QToolButton>
 
 #include "DialogTheme.h"
@@ -14,13 +15,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QToolButton *makeButton(const QString &name, const QString &icon, const QSize &iconSize,
-                        QWidget *parent)
+QToolButton *makeButton(const QString &name, const QString &icon, QWidget *parent)
 {
     auto *button = new QToolButton(parent);
     button->setObjectName(name);
     button->setIcon(QIcon(icon));
-    button->setIconSize(iconSize);
     // A tap must not take the focus out of the dialog; the keyboard has keys of its own.
     button->setFocusPolicy(Qt::NoFocus);
     return button;
@@ -66,14 +65,13 @@ void QvexDialogBorder::Private::makeHeader(bool withButtons)
     titleLabel->setTextFormat(Qt::PlainText);
     titleLabel->setStyleSheet(u"QLabel#DlgTitleLabel { color: green; font-size: 18px; "
                               "font-weight: normal; }"_s);
-    helpButton =
-        makeButton(u"DlgHelpButton"_s, u":/help-icon-48.png"_s, DialogTheme::headerIcon, header);
-    closeButton =
-        makeButton(u"DlgCloseButton"_s, u":/close-icon-48.png"_s, DialogTheme::headerIcon, header);
+    helpButton = makeButton(u"DlgHelpButton"_s, u":/help-icon-48.png"_s, header);
+    closeButton = makeButton(u"DlgCloseButton"_s, u":/close-icon-48.png"_s, header);
     helpButton->hide();
     closeButton->setVisible(withButtons);
     for (QToolButton *button : {helpButton, closeButton}) {
         button->setFixedSize(DialogTheme::headerHeight, DialogTheme::headerHeight);
+        button->setIconSize(DialogTheme::headerIcon);
     }
     auto *row = new QHBoxLayout(header);
     row->setContentsMargins(DialogTheme::spacing, 0, 0, 0);
@@ -88,8 +86,11 @@ void QvexDialogBorder::Private::makeBars()
     const QList<std::pair<Direction, QString>> names {
         {Up, u"up"_s}, {Down, u"down"_s}, {Left, u"left"_s}, {Right, u"right"_s}};
     for (const auto &[direction, name] : names) {
-        QToolButton *bar = makeButton(u"DlgMoveBar_%1"_s.arg(name),
-                                      u":/images/bar_%1.png"_s.arg(name), DialogTheme::barIcon, q);
+        QToolButton *bar =
+            makeButton(u"DlgMoveBar_%1"_s.arg(name), u":/images/bar_%1.png"_s.arg(name), q);
+        const bool lying = direction == Up || direction == Down;
+        bar->setFixedSize(lying ? DialogTheme::moveBar : DialogTheme::moveBar.transposed());
+        bar->setIconSize(bar->size());
         bar->setAutoRepeat(true);
         bars.insert(direction, bar);
     }
@@ -126,28 +127,20 @@ void QvexDialogBorder::Private::elideTitle()
 
 QRect QvexDialogBorder::Private::panelRect() const
 {
-    const int bar = movable ? DialogTheme::barThickness : 0;
+    const int bar = movable ? DialogTheme::moveBar.height() : 0;
     return q->rect().adjusted(bar, bar, -bar, -bar);
 }
 
 void QvexDialogBorder::Private::placeBars()
 {
-    const QRect all = q->rect();
-    const QRect inner = panelRect();
-    const int thickness = DialogTheme::barThickness;
-    const int length = DialogTheme::barLength;
-    const auto horizontal = [&](int y) {
-        const int wide = qMin(length, inner.width());
-        return QRect(inner.center().x() - wide / 2, y, wide, thickness);
+    const auto place = [this](Direction direction, Qt::Alignment side) {
+        QToolButton *bar = bars.value(direction);
+        bar->setGeometry(QStyle::alignedRect(Qt::LeftToRight, side, bar->size(), q->rect()));
     };
-    const auto vertical = [&](int x) {
-        const int high = qMin(length, inner.height());
-        return QRect(x, inner.center().y() - high / 2, thickness, high);
-    };
-    bars.value(Up)->setGeometry(horizontal(all.top()));
-    bars.value(Down)->setGeometry(horizontal(inner.bottom() + 1));
-    bars.value(Left)->setGeometry(vertical(all.left()));
-    bars.value(Right)->setGeometry(vertical(inner.right() + 1));
+    place(Up, Qt::AlignTop | Qt::AlignHCenter);
+    place(Down, Qt::AlignBottom | Qt::AlignHCenter);
+    place(Left, Qt::AlignLeft | Qt::AlignVCenter);
+    place(Right, Qt::AlignRight | Qt::AlignVCenter);
 }
 
 QvexDialogBorder::QvexDialogBorder(bool withButtons, bool movable, QWidget *parent)
@@ -163,7 +156,7 @@ QvexDialogBorder::QvexDialogBorder(bool withButtons, bool movable, QWidget *pare
     }
     d->updateTexts();
     d->updateHeader();
-    setStyleSheet(DialogTheme::borderStyle());
+    DialogTheme::apply(this, &DialogTheme::borderStyle);
 }
 
 QvexDialogBorder::~QvexDialogBorder() = default;
@@ -182,7 +175,7 @@ QMargins QvexDialogBorder::panelMargins() const
 
 QMargins QvexDialogBorder::margins() const
 {
-    return panelMargins() + (d->movable ? DialogTheme::barThickness : 0);
+    return panelMargins() + (d->movable ? DialogTheme::moveBar.height() : 0);
 }
 
 QAbstractButton *QvexDialogBorder::closeButton() const
@@ -231,6 +224,9 @@ void QvexDialogBorder::setVisible(bool visible)
         qCWarning(lcDialogs, "QvexDialogBorder::show() NULL parent");
         return;
     }
+    if (visible) {
+        DialogTheme::apply(this, &DialogTheme::borderStyle);
+    }
     QWidget::setVisible(visible);
 }
 
@@ -249,6 +245,8 @@ void QvexDialogBorder::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         d->updateTexts();
+    } else if (event->type() == QEvent::PaletteChange) {
+        DialogTheme::apply(this, &DialogTheme::borderStyle);
     }
 }
 

@@ -2,12 +2,10 @@
 
 #include "QvexDialog.h"
 
-class HelpBrowser;
-
 /**
  * Shows help pages: local files and resources in HTML or, with the suffix ".md", in Markdown.
  *
- * Nothing is loaded from the network. Where a page should be that is missing, or is not local, the
+ * Nothing is loaded from the network. Where a page should be that is missing or not local, the
  * dialog says so.
  */
 class VEX_EXPORT QvextHelpDialog : public QvexDialog
@@ -20,13 +18,14 @@ public:
     ~QvextHelpDialog() override;
 
     /**
-     * Goes to the page at @p url: a path, where a relative one begins at the application's
-     * directory and one with ":/" in front is a resource's, or a URL. It becomes the home page.
+     * Goes to the page at @p url, which becomes the home page: a URL or a path, where ":/" begins a
+     * resource's and a relative one starts at the application's directory.
      */
     void setHelpUrl(const QString &url) override;
 
 protected:
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     struct Private;

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QTextBrowser>
+
+/**
+ * A browser for pages on this machine: files and resources, HTML and Markdown.
+ *
+ * Anything else is not loaded, be it a page, a picture or a style sheet. In place of a page that is
+ * missing or refused there is one that says so.
+ */
+class HelpBrowser : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit HelpBrowser(QWidget *parent = nullptr);
+
+    QVariant loadResource(int type, const QUrl &name) override;
+};
