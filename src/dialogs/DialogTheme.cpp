@@ -1,6 +1,8 @@
 #include "DialogTheme.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
+#include <QHash>
 
 #include <cmath>
 
@@ -61,6 +63,19 @@ QString buttonStyle(const QPalette &palette)
                .arg(fontSize)
                .arg(text.name(), ground.name(), outline(palette).name(), disabled.name(),
                     inkOn(palette.color(QPalette::Highlight)).name());
+}
+
+QIcon icon(const QString &file)
+{
+    static QHash<QString, QIcon> icons;
+    if (icons.isEmpty()) {
+        // Pixmaps must not outlive the application.
+        qAddPostRoutine([] { icons.clear(); });
+    }
+    if (!icons.contains(file)) {
+        icons.insert(file, QIcon(file));
+    }
+    return icons.value(file);
 }
 
 void setText(QAbstractButton *button, const QString &text)

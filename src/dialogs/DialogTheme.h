@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QIcon>
 #include <QPalette>
 #include <QSize>
 #include <QString>
@@ -55,6 +56,9 @@ QColor inkOn(const QColor &ground);
 QString borderStyle(const QPalette &palette);
 /// For a widget with push buttons.
 QString buttonStyle(const QPalette &palette);
+/// The icon of the resource @p file. Read once: icons made anew each time would crowd the cache of
+/// pixmaps.
+QIcon icon(const QString &file);
 /// With a gap between icon and text, for which style sheets have no word.
 void setText(QAbstractButton *button, const QString &text);
 /// Sets a style sheet that is made from @p widget's palette, if it differs from the one it has.

@@ -50,7 +50,7 @@ QToolButton *FwButtonTabWidget::Private::makeScroller(const QString &name, const
 {
     auto *button = new QToolButton(q);
     button->setObjectName(name);
-    button->setIcon(QIcon(u":/images/%1.png"_s.arg(icon)));
+    button->setIcon(DialogTheme::icon(u":/images/%1.png"_s.arg(icon)));
     button->setIconSize({DialogTheme::touchTarget, DialogTheme::touchTarget});
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);

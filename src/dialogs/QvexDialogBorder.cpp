@@ -19,7 +19,7 @@ QToolButton *makeButton(const QString &name, const QString &icon, QWidget *paren
 {
     auto *button = new QToolButton(parent);
     button->setObjectName(name);
-    button->setIcon(QIcon(icon));
+    button->setIcon(DialogTheme::icon(icon));
     // A tap must not take the focus out of the dialog; the keyboard has keys of its own.
     button->setFocusPolicy(Qt::NoFocus);
     return button;

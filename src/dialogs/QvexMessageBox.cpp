@@ -49,7 +49,7 @@ QPixmap pictureOf(QvexMessageBox::Icon icon)
         {QvexMessageBox::Question, u"question"_s},
     };
     const QSize size(DialogTheme::messageIcon, DialogTheme::messageIcon);
-    return QIcon(u":/images/%1.png"_s.arg(names.value(icon))).pixmap(size);
+    return DialogTheme::icon(u":/images/%1.png"_s.arg(names.value(icon))).pixmap(size);
 }
 
 } // namespace
@@ -294,7 +294,7 @@ void QvexMessageBox::UpdateText()
     const bool open = d->detailsButton->isChecked();
     DialogTheme::setText(d->detailsButton, open ? tr("Hide Details") : tr("Show Details"));
     d->detailsButton->setIcon(
-        QIcon(open ? u":/images/chevron_up.png"_s : u":/images/chevron_down.png"_s));
+        DialogTheme::icon(open ? u":/images/chevron_up.png"_s : u":/images/chevron_down.png"_s));
     d->details->setAccessibleName(tr("Details"));
     const QString kinds[] {QString(), tr("Information"), tr("Warning"), tr("Error"),
                            tr("Question")};

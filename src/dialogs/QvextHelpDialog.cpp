@@ -34,7 +34,7 @@ QPushButton *QvextHelpDialog::Private::addButton(const QString &name, const QStr
 {
     auto *button = new QPushButton(q);
     button->setObjectName(name);
-    button->setIcon(QIcon(u":/images/%1.png"_s.arg(icon)));
+    button->setIcon(DialogTheme::icon(u":/images/%1.png"_s.arg(icon)));
     button->setIconSize({DialogTheme::tabIcon, DialogTheme::tabIcon});
     button->setAutoDefault(false);
     row->addWidget(button);
