@@ -1,8 +1,10 @@
 // What an application does all the time without the controller, beside plain Qt doing the same.
 
-#include <QCoreApplication>
+#include <QApplication>
 
+#include "MessageBoxRows.h"
 #include "PropertiesRows.h"
+#include "SlideRows.h"
 #include "harness/Program.h"
 
 namespace {
@@ -11,6 +13,8 @@ std::vector<Row> measure(const ProgramOptions &options)
 {
     Suite suite;
     addPropertiesRows(suite, options);
+    addSlideRows(suite);
+    addMessageBoxRows(suite);
     return suite.run();
 }
 
@@ -18,6 +22,8 @@ std::vector<Row> measure(const ProgramOptions &options)
 
 int main(int argc, char **argv)
 {
-    const QCoreApplication application(argc, argv);
+    // Software rendering, whatever the machine has.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     return runProgram(QStringLiteral("controls"), argc, argv, measure);
 }
