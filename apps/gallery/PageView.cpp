@@ -111,7 +111,9 @@ QWidget *PageView::makeState()
         m_values.constLast()->setTextInteractionFlags(Qt::NoTextInteraction);
         layout->addRow(watched.label, m_values.constLast());
     }
-    box->setVisible(!m_values.isEmpty());
+    if (m_values.isEmpty()) {
+        box->hide();
+    }
     return box;
 }
 
