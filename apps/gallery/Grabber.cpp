@@ -2,6 +2,8 @@
 
 #include "GalleryWindow.h"
 
+#include <dialogs/QvexDialog.h>
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QPainter>
@@ -16,6 +18,7 @@ void closeDialogs()
     while (QWidget *popup = QApplication::activePopupWidget()) {
         popup->close();
     }
+    QvexDialog::cancellAllDialogBoxes();
 }
 
 } // namespace
@@ -65,7 +68,7 @@ QPixmap Grabber::picture() const
     QPixmap picture = m_window.grab();
     QPainter painter(&picture);
     for (QWidget *widget : m_above) {
-        if (widget && widget->isVisible()) {
+        if (widget && widget->isWindow() && widget->isVisible()) {
             const QPoint place = widget->mapToGlobal(QPoint()) - m_window.mapToGlobal(QPoint());
             painter.setClipping(false);
             if (!widget->mask().isEmpty()) {

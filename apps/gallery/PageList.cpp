@@ -2,6 +2,7 @@
 
 #include "pages/ArtworkPage.h"
 #include "pages/DelayClickPage.h"
+#include "pages/DialogPage.h"
 #include "pages/DoubleClickPage.h"
 #include "pages/FaderPage.h"
 #include "pages/SlidingStackPage.h"
@@ -22,6 +23,6 @@ PageList make()
 
 PageList makePages()
 {
-    return make<TripleActionPage, DelayClickPage, DoubleClickPage, FaderPage, SlidingStackPage,
-                StylesPage, ArtworkPage>();
+    return make<DialogPage, TripleActionPage, DelayClickPage, DoubleClickPage, FaderPage,
+                SlidingStackPage, StylesPage, ArtworkPage>();
 }
