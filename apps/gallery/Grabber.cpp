@@ -39,8 +39,7 @@ QString Grabber::grabPage(int index)
     for (const Page::Scene &scene : scenes) {
         play(scene);
         const QString name = scene.name.isEmpty() ? page.name() : page.name() + u'-' + scene.name;
-        const QString error = save(m_picture, name);
-        if (!error.isEmpty()) {
+        if (QString error = save(m_picture, name); !error.isEmpty()) {
             return error;
         }
     }

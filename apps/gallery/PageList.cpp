@@ -1,10 +1,14 @@
 #include "PageList.h"
 
 #include "pages/ArtworkPage.h"
+#include "pages/ButtonTabsPage.h"
 #include "pages/DelayClickPage.h"
 #include "pages/DialogPage.h"
 #include "pages/DoubleClickPage.h"
 #include "pages/FaderPage.h"
+#include "pages/HelpDialogPage.h"
+#include "pages/MessageBoxPage.h"
+#include "pages/PropertiesPage.h"
 #include "pages/SlidingStackPage.h"
 #include "pages/StylesPage.h"
 #include "pages/TripleActionPage.h"
@@ -23,6 +27,7 @@ PageList make()
 
 PageList makePages()
 {
-    return make<DialogPage, TripleActionPage, DelayClickPage, DoubleClickPage, FaderPage,
-                SlidingStackPage, StylesPage, ArtworkPage>();
+    return make<PropertiesPage, DialogPage, MessageBoxPage, HelpDialogPage, ButtonTabsPage,
+                TripleActionPage, DelayClickPage, DoubleClickPage, FaderPage, SlidingStackPage,
+                StylesPage, ArtworkPage>();
 }

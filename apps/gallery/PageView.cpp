@@ -21,7 +21,7 @@ namespace {
 
 constexpr int signalsKept = 100;
 constexpr int asideWidth = 360;
-constexpr int sourceLines = 16;
+constexpr int sourceLines = 18;
 
 QLabel *label(const QString &text, double size, QFont::Weight weight)
 {
