@@ -82,7 +82,7 @@ QPixmap Grabber::picture() const
 QString Grabber::save(const QPixmap &picture, const QString &name) const
 {
     const QString path = m_directory.filePath(name + m_suffix + u".png"_s);
-    return picture.save(path, "PNG", 0) ? QString() : u"can't write %1"_s.arg(path);
+    return picture.save(path, "PNG") ? QString() : u"can't write %1"_s.arg(path);
 }
 
 bool Grabber::eventFilter(QObject *watched, QEvent *event)

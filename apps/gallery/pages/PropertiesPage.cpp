@@ -20,6 +20,7 @@ QLineEdit *makeEdit(const QString &text, QWidget *parent)
     auto *edit = new QLineEdit(text, parent);
     edit->setAccessibleName(PropertiesPage::tr("Operator"));
     edit->setFixedSize(320, Look::fingerSize);
+    edit->setTextMargins(8, 0, 8, 0);
     return edit;
 }
 
