@@ -54,6 +54,12 @@ bool DialogGuard::Entry::contains(const QWidget *widget) const
     return widget;
 }
 
+/// Whether what is behind gets no touches.
+bool DialogGuard::Entry::blocks() const
+{
+    return dialog->isRunning() || dialog->autoClose();
+}
+
 bool DialogGuard::Entry::isPart(const QObject *object) const
 {
     return object == dialog || object == border || object == shield;
@@ -95,24 +101,22 @@ void DialogGuard::remove(QvexDialog *dialog)
 
 const DialogGuard::Entry *DialogGuard::newestBlocking() const
 {
-    const auto entry = std::find_if(m_entries.crbegin(), m_entries.crend(), [](const Entry &e) {
-        return e.dialog->isRunning() || e.dialog->autoClose();
-    });
+    const auto entry = std::find_if(m_entries.crbegin(), m_entries.crend(),
+                                    [](const Entry &e) { return e.blocks(); });
     return entry == m_entries.crend() ? nullptr : &*entry;
 }
 
 bool DialogGuard::isOpenTo(const QWidget *widget) const
 {
     const QWidget *window = widget->window();
-    if (window->windowType() == Qt::Popup || window->isModal()) {
-        return true;
-    }
     for (auto entry = m_entries.crbegin(); entry != m_entries.crend(); ++entry) {
         if (entry->contains(widget)) {
             return true;
         }
-        if (entry->dialog->isRunning() || entry->dialog->autoClose()) {
-            return false;
+        if (entry->blocks()) {
+            // The toolkit takes care of what is modal for itself, and is above the dialog.
+            const bool above = window->isModal() && window != entry->dialog->window();
+            return above || window->windowType() == Qt::Popup;
         }
     }
     return true;

@@ -39,6 +39,7 @@ private:
         QWidget *shield;
         QPointer<QWidget> focusBefore;
 
+        bool blocks() const;
         bool contains(const QWidget *widget) const;
         bool isPart(const QObject *object) const;
     };

@@ -1,14 +1,15 @@
 #include "HelpBrowser.h"
 
 #include <QFileInfo>
-#include <QScroller>
+
+#include "FingerScroll.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 /// A help page or picture that is larger is none.
-constexpr qint64 LargestFile = 32 * 1024 * 1024;
+constexpr qint64 LargestFile = 8 * 1024 * 1024;
 
 /// @return The name of the file or resource; empty when @p url leads elsewhere.
 QString localName(const QUrl &url)
@@ -31,7 +32,8 @@ bool canBeRead(const QString &name)
 HelpBrowser::HelpBrowser(QWidget *parent)
     : QTextBrowser(parent)
 {
-    QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
+    setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    new FingerScroll(this);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)

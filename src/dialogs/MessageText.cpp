@@ -2,10 +2,10 @@
 
 #include <QLabel>
 #include <QScrollBar>
-#include <QScroller>
 #include <QVBoxLayout>
 
 #include "DialogTheme.h"
+#include "FingerScroll.h"
 
 using namespace Qt::StringLiterals;
 
@@ -66,6 +66,7 @@ MessageText::MessageText(QWidget *parent)
     setWidget(page);
     page->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
+    new FingerScroll(this);
 }
 
 void MessageText::setText(const QString &text)
@@ -108,9 +109,6 @@ QSize MessageText::minimumSizeHint() const
 void MessageText::resizeEvent(QResizeEvent *event)
 {
     QScrollArea::resizeEvent(event);
-    if (verticalScrollBar()->maximum() > 0 && !QScroller::hasScroller(viewport())) {
-        QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
-        // From a keyboard, too.
-        setFocusPolicy(Qt::TabFocus);
-    }
+    // A keyboard can scroll what has the focus.
+    setFocusPolicy(verticalScrollBar()->maximum() > 0 ? Qt::TabFocus : Qt::NoFocus);
 }

@@ -197,7 +197,11 @@ std::optional<int> QvexDialog::refusal() const
 
 void QvexDialog::run()
 {
+    const QPointer<QvexDialog> guard(this);
     hide();
+    if (!guard) {
+        return;
+    }
     setResult(Rejected);
     d->running = true;
     m_dialogStack.push(this);
@@ -321,7 +325,11 @@ void QvexDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::WindowTitleChange) {
-        d->border->setTitle(windowTitle());
+        if (accessibleName().isEmpty() || accessibleName() == d->title) {
+            setAccessibleName(windowTitle());
+        }
+        d->title = windowTitle();
+        d->border->setTitle(d->title);
         d->refresh();
     }
 }
@@ -394,8 +402,8 @@ void QvexDialog::moveEvent(QMoveEvent *event)
 void QvexDialog::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    if (!d->arranging && d->surface) {
-        d->follow();
+    if (!d->arranging) {
+        d->refresh();
     }
 }
 

@@ -44,6 +44,7 @@ struct QvexDialog::Private
     QEventLoop *loop = nullptr;
     QPoint home; ///< the position without the shared offset, when it was set by move()
     QPoint placed;
+    QString title;
     QString helpUrl;
     bool withButtons;
     bool borderVisible = true;

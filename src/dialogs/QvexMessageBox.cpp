@@ -6,9 +6,9 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScroller>
 
 #include "DialogTheme.h"
+#include "FingerScroll.h"
 #include "MessageText.h"
 
 using namespace Qt::StringLiterals;
@@ -99,12 +99,14 @@ void QvexMessageBox::Private::makeDetails()
     details = new QPlainTextEdit(q);
     details->setObjectName(u"MsgDetails"_s);
     details->setReadOnly(true);
+    details->setTextInteractionFlags(Qt::TextSelectableByKeyboard);
     details->setTabChangesFocus(true);
     details->setFixedHeight(DialogTheme::detailsHeight);
     QFont font = details->font();
     font.setPixelSize(DialogTheme::fontSize);
     details->setFont(font);
     details->hide();
+    new FingerScroll(details);
     detailsButton = new QPushButton(q);
     detailsButton->setObjectName(u"MsgDetailsButton"_s);
     detailsButton->setCheckable(true);
@@ -135,9 +137,6 @@ void QvexMessageBox::Private::arrange()
 
 void QvexMessageBox::Private::showDetails(bool shown)
 {
-    if (shown) {
-        QScroller::grabGesture(details->viewport(), QScroller::LeftMouseButtonGesture);
-    }
     details->setVisible(shown);
     q->UpdateText();
 }

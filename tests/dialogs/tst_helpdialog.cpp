@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void showsOrSaysWhyNot_data();
     void showsOrSaysWhyNot();
     void goesBackAndForth();
+    void fingerScrolls();
     void opensAboveItsDialog();
 
 private:
@@ -42,6 +44,7 @@ void TestHelpDialog::initTestCase()
           "<img src='http://127.0.0.1/picture.png'>"
           "<link rel='stylesheet' href='//127.0.0.1/style.css'>");
     write(path + u"/second.md"_s, "# Second\n\n[gone](third.md)");
+    write(path + u"/long.html"_s, QByteArray("<p><a href='second.md'>link</a></p>").repeated(200));
     write(path + u"/empty.html"_s, " \n");
     write(path + u"/a name#1.html"_s, "Odd name");
 }
@@ -94,10 +97,10 @@ void TestHelpDialog::goesBackAndForth()
     const auto follow = [&](const QString &link) {
         browser->find(link);
         const QPoint at = browser->cursorRect().center() - QPoint(5, 0);
+        browser->moveCursor(QTextCursor::Start);
         QTest::mouseClick(browser->viewport(), Qt::LeftButton, {}, at);
     };
     const auto title = [browser] { return browser->toPlainText().section(u'\n', 0, 0); };
-    browser->moveCursor(QTextCursor::Start);
     follow(u"next"_s);
     QCOMPARE(title(), u"Second"_s);
     follow(u"gone"_s);
@@ -110,6 +113,25 @@ void TestHelpDialog::goesBackAndForth()
     QCOMPARE(title(), u"Second"_s);
     tapThrough(home);
     QCOMPARE(title(), u"First"_s);
+    help.reject();
+}
+
+void TestHelpDialog::fingerScrolls()
+{
+    Screen screen;
+    QvextHelpDialog help(m_directory.filePath(u"long.html"_s));
+    help.setParent(&screen);
+    help.open();
+    auto *browser = help.findChild<QTextBrowser *>();
+    QWindow *window = screen.windowHandle();
+    const QPoint at = browser->viewport()->mapTo(&screen, QPoint(20, 300));
+    QTest::mousePress(window, Qt::LeftButton, {}, at);
+    for (int y = 0; y <= 200; y += 20) {
+        QTest::mouseMove(window, at - QPoint(0, y), 10);
+    }
+    QTest::mouseRelease(window, Qt::LeftButton, {}, at - QPoint(0, 200));
+    QTRY_VERIFY(browser->verticalScrollBar()->value() > 100);
+    QCOMPARE(browser->source().fileName(), u"long.html"_s);
     help.reject();
 }
 
