@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QShortcutEvent>
 
 #include <algorithm>
@@ -242,7 +243,12 @@ bool DialogGuard::filterRelease(QWidget *widget, const QMouseEvent &event)
 
 bool DialogGuard::filterKey(QWidget *widget, QKeyEvent *event)
 {
+    const bool lookedUp = std::exchange(m_lookedUp, false);
     if (event->type() == QEvent::ShortcutOverride) {
+        if (lookedUp) {
+            event->accept();
+            return true;
+        }
         m_lastOverride.reset(event->clone());
     }
     const Entry *blocking = newestBlocking();
@@ -250,15 +256,22 @@ bool DialogGuard::filterKey(QWidget *widget, QKeyEvent *event)
         return false;
     }
     const QWidget *focus = QApplication::focusWidget();
-    const bool passedOn = focus && isOpenTo(focus);
+    const bool passedOn = event == m_redirected || (focus && isOpenTo(focus));
     if (passedOn || event->type() != QEvent::KeyPress) {
         event->ignore();
         return true;
     }
     // No widget of the dialog has the focus, because it was disabled for one.
-    moveFocusInto(blocking->dialog);
-    QCoreApplication::sendEvent(blocking->dialog, event);
+    redirect(event, blocking->dialog);
     return true;
+}
+
+void DialogGuard::redirect(QKeyEvent *event, QWidget *target)
+{
+    const QScopedValueRollback<const QKeyEvent *> redirected(m_redirected, event);
+    // Sending it would else look among the shortcuts once more, and end here again.
+    m_lookedUp = true;
+    QCoreApplication::sendEvent(target, event);
 }
 
 /// A key that is a shortcut of what is behind goes to the dialog as an ordinary key.
@@ -268,11 +281,12 @@ bool DialogGuard::filterShortcut(const QObject *owner)
     if (!blocking || !blocking->dialog->isRunning() || isOpenToOwner(owner)) {
         return false;
     }
-    QWidget *focus = QApplication::focusWidget();
-    if (m_lastOverride && focus && isOpenTo(focus)) {
+    if (m_lastOverride) {
+        QWidget *focus = QApplication::focusWidget();
+        const bool inside = focus && isOpenTo(focus);
         QKeyEvent press(QEvent::KeyPress, m_lastOverride->key(), m_lastOverride->modifiers(),
                         m_lastOverride->text(), m_lastOverride->isAutoRepeat());
-        QCoreApplication::sendEvent(focus, &press);
+        redirect(&press, inside ? focus : blocking->dialog);
     }
     return true;
 }

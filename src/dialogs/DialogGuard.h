@@ -56,9 +56,12 @@ private:
     bool filterRelease(QWidget *widget, const QMouseEvent &event);
     bool filterKey(QWidget *widget, QKeyEvent *event);
     bool filterShortcut(const QObject *owner);
+    void redirect(QKeyEvent *event, QWidget *target);
 
     QList<Entry> m_entries;
     bool m_pressSwallowed = false;
+    const QKeyEvent *m_redirected = nullptr; ///< a dialog that ignores it passes it on to here
+    bool m_lookedUp = false;
     QPointer<QvexDialog> m_tappedOutside;
     std::unique_ptr<QKeyEvent> m_lastOverride;
 };

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A help page or picture that is larger is none.
-constexpr qint64 LargestFile = 8 * 1024 * 1024;
+constexpr qint64 LargestFile = 8LL * 1024 * 1024;
 
 /// @return The name of the file or resource; empty when @p url leads elsewhere.
 QString localName(const QUrl &url)
@@ -43,7 +43,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl &name)
     const QUrl url = source().resolved(name);
     const QString file = localName(url);
     if (!file.isEmpty() && canBeRead(file)) {
-        const QVariant contents = QTextBrowser::loadResource(type, url);
+        QVariant contents = QTextBrowser::loadResource(type, url);
         if (!isPage || !contents.toByteArray().trimmed().isEmpty()) {
             return contents;
         }

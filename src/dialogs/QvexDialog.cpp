@@ -337,7 +337,7 @@ void QvexDialog::changeEvent(QEvent *event)
 /// Not QDialog's, which would centre a dialog as if it were a window.
 void QvexDialog::showEvent(QShowEvent *event)
 {
-    QWidget::showEvent(event);
+    QWidget::showEvent(event); // NOLINT(bugprone-parent-virtual-call)
     if (!event->spontaneous()) {
         initSize();
         d->showAround();

@@ -237,7 +237,7 @@ QWidget *QvexDialogBorder::applicationWindow(QWidget *widget)
             return ancestor;
         }
     }
-    return widget->window();
+    return widget ? widget->window() : nullptr;
 }
 
 void QvexDialogBorder::changeEvent(QEvent *event)
