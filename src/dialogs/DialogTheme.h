@@ -23,7 +23,7 @@ inline constexpr int panelPadding = 8;
 inline constexpr int panelRadius = 8;
 inline constexpr QSize headerIcon {48, 48};
 /// A move bar above or below; those at the sides are turned.
-inline constexpr QSize moveBar {128, 48};
+inline constexpr QSize moveBar {60, 48};
 
 inline constexpr int messageIcon = 64;
 inline constexpr int smallIcon = 24;
