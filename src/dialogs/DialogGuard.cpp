@@ -68,7 +68,8 @@ bool DialogGuard::Entry::isPart(const QObject *object) const
 
 void DialogGuard::add(QvexDialog *dialog, QWidget *border, QWidget *shield)
 {
-    m_entries.append({dialog, border, shield, QApplication::focusWidget()});
+    QWidget *focus = QApplication::focusWidget();
+    m_entries.append({dialog, border, shield, focus ? focus : dialog->window()->focusWidget()});
 }
 
 void DialogGuard::moveFocusInto(QvexDialog *dialog, QWidget *first)
@@ -93,7 +94,8 @@ void DialogGuard::remove(QvexDialog *dialog)
     }
     const QPointer<QWidget> before = entry->focusBefore;
     m_entries.erase(entry);
-    const QWidget *now = QApplication::focusWidget();
+    // Not the application's focus widget: its window need not be the active one just now.
+    const QWidget *now = dialog->window()->focusWidget();
     const bool hadFocus = now && (now == dialog || dialog->isAncestorOf(now));
     if (hadFocus && before && before->isVisible() && before->isEnabled()) {
         before->setFocus(Qt::OtherFocusReason);

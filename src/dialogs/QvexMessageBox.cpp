@@ -357,9 +357,11 @@ QvexMessageBox::StandardButton QvexMessageBox::ask(Icon icon, QWidget *parent, c
     box->setText(text);
     box->setStandardButtons(buttons);
     box->setDefaultButton(defaultButton);
-    const int answer = box->exec();
+    box->exec();
+    const auto answer = box && box->d->clicked ? box->d->buttons->standardButton(box->d->clicked)
+                                               : QDialogButtonBox::NoButton;
     delete box;
-    return answer > 0 ? StandardButton(answer) : QDialogButtonBox::NoButton;
+    return answer;
 }
 
 QvexMessageBox::StandardButton QvexMessageBox::information(QWidget *parent, const QString &title,

@@ -48,7 +48,6 @@ class TestTabWidget : public GuardedTest
 private Q_SLOTS:
     void tapsAndKeysChangeThePage();
     void tabsComeAndGo();
-    void pagesGoWithoutTheirTabs();
     void longTextsAreElided();
     void tabsThatDoNotFitAreScrolled();
     void tabsAreAccessible();
@@ -99,16 +98,6 @@ void TestTabWidget::tabsComeAndGo()
     tap(last);
     QCOMPARE(tabs.widget.currentIndex(), -1);
     QCOMPARE(tabs.changes->last().first().toInt(), -1);
-}
-
-void TestTabWidget::pagesGoWithoutTheirTabs()
-{
-    QPointer<QWidget> page;
-    {
-        Tabs tabs({u"a"_s, u"b"_s});
-        page = tabs.widget.widget(1);
-    }
-    QVERIFY(!page);
 }
 
 void TestTabWidget::longTextsAreElided()
