@@ -4,10 +4,12 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QSet>
 #include <QShortcutEvent>
 
 #include <algorithm>
 
+#include "DialogTheme.h"
 #include "QvexDialog.h"
 
 namespace {
@@ -72,6 +74,19 @@ void DialogGuard::add(QvexDialog *dialog, QWidget *border, QWidget *shield)
     m_entries.append({dialog, border, shield, focus ? focus : dialog->window()->focusWidget()});
 }
 
+/// With each shield as dark as the lowest, the application would be black behind three dialogs.
+void DialogGuard::shade()
+{
+    QSet<const QWidget *> shaded;
+    for (const Entry &entry : std::as_const(m_entries)) {
+        if (entry.dialog->isRunning()) {
+            const QWidget *window = entry.shield->window();
+            entry.shield->setPalette(DialogTheme::shieldColor(!shaded.contains(window)));
+            shaded.insert(window);
+        }
+    }
+}
+
 void DialogGuard::moveFocusInto(QvexDialog *dialog, QWidget *first)
 {
     QWidget *target = first ? first : dialog->focusWidget();
@@ -94,6 +109,7 @@ void DialogGuard::remove(QvexDialog *dialog)
     }
     const QPointer<QWidget> before = entry->focusBefore;
     m_entries.erase(entry);
+    shade();
     // Not the application's focus widget: its window need not be the active one just now.
     const QWidget *now = dialog->window()->focusWidget();
     const bool hadFocus = now && (now == dialog || dialog->isAncestorOf(now));

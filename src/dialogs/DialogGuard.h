@@ -24,6 +24,8 @@ public:
 
     /** @p dialog is above those that were added before it. */
     void add(QvexDialog *dialog, QWidget *border, QWidget *shield);
+    /** Gives the shields of running dialogs their colours, by which of them are the lowest. */
+    void shade();
     /** Gives the focus to @p first, else to the first in @p dialog, which was added. */
     static void moveFocusInto(QvexDialog *dialog, QWidget *first = nullptr);
     /** Gives the focus of a dialog that ran back to where it was. Does nothing if not added. */

@@ -39,10 +39,10 @@ inline constexpr int tabIcon = 32;
 inline constexpr int narrowestTab = 96;
 inline constexpr int widestTab = 240;
 
-/// Over the application behind a running dialog.
-inline constexpr QColor shieldColor()
+/// Over the application behind a running dialog, and over the dialogs below another one.
+inline constexpr QColor shieldColor(bool isLowest)
 {
-    return QColor(0, 0, 0, 110);
+    return QColor(0, 0, 0, isLowest ? 110 : 50);
 }
 
 /// What is between the two: @p share of @p first and the rest of @p second.

@@ -38,7 +38,6 @@ QvexDialog::Private::Private(QvexDialog *dialog, bool withBorderButtons, bool mo
     shield->setObjectName(u"DlgShield"_s);
     shield->setAttribute(Qt::WA_NoMousePropagation);
     shield->setAutoFillBackground(true);
-    shield->setPalette(DialogTheme::shieldColor());
 }
 
 QWidget *QvexDialog::Private::parentApplication() const
@@ -140,6 +139,7 @@ void QvexDialog::Private::showAround()
 {
     // First of all, for else it would raise the other dialogs above this one.
     DialogGuard::instance().add(q, border.get(), shield.get());
+    DialogGuard::instance().shade();
     shield->setVisible(running && surface);
     if (borderVisible) {
         border->show();

@@ -7,6 +7,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include <algorithm>
+
 #include "DialogTheme.h"
 #include "FingerScroll.h"
 #include "MessageText.h"
@@ -66,6 +68,7 @@ struct QvexMessageBox::Private
     void arrange();
     void showDetails(bool shown);
     QAbstractButton *escapeButton() const;
+    QAbstractButton *mainButton() const;
     QAbstractButton *onlyOneWith(Box::ButtonRole role) const;
     int codeOf(QAbstractButton *button) const;
 
@@ -166,6 +169,16 @@ QAbstractButton *QvexMessageBox::Private::escapeButton() const
     }
     QAbstractButton *rejecting = onlyOneWith(Box::RejectRole);
     return rejecting ? rejecting : onlyOneWith(Box::NoRole);
+}
+
+/// What Return presses when no default button was chosen, as the button box decides it.
+QAbstractButton *QvexMessageBox::Private::mainButton() const
+{
+    const QList<QAbstractButton *> all = buttons->buttons();
+    const auto accepting = std::find_if(all.cbegin(), all.cend(), [this](QAbstractButton *button) {
+        return buttons->buttonRole(button) == Box::AcceptRole;
+    });
+    return accepting == all.cend() ? all.first() : *accepting;
 }
 
 int QvexMessageBox::Private::codeOf(QAbstractButton *button) const
@@ -307,6 +320,9 @@ void QvexMessageBox::setVisible(bool visible)
     }
     if (visible && isHidden()) {
         d->clicked = nullptr;
+        if (!focusWidget() || focusWidget() == d->detailsButton) {
+            d->mainButton()->setFocus();
+        }
         DialogTheme::apply(this, &DialogTheme::buttonStyle);
     }
     QvexDialog::setVisible(visible);

@@ -101,6 +101,7 @@ private Q_SLOTS:
     void keepsTouchesFromWhatIsBehind();
     void keepsKeysFromWhatIsBehind();
     void dialogShownAboveCanBeUsed();
+    void nestedDialogsDarkenTheScreenOnce();
     void tapOutsideClosesAutoCloseDialog();
     void moveBarsMoveAllDialogs();
     void staysReachable_data();
@@ -391,6 +392,23 @@ void TestDialogs::dialogShownAboveCanBeUsed()
     form.accept();
     tap(below.button);
     QVERIFY(below.button->isChecked());
+}
+
+void TestDialogs::nestedDialogsDarkenTheScreenOnce()
+{
+    Screen screen;
+    const auto ink = [&] { return screen.grab().toImage().pixelColor(5, 795).lightness(); };
+    const int bright = ink();
+    QvexDialog lower(&screen);
+    lower.open();
+    const int behindOne = ink();
+    QCOMPARE_LT(behindOne, bright);
+    QvexDialog upper(&screen);
+    upper.open();
+    QCOMPARE_GT(ink(), behindOne * 2 / 3);
+    messages().allow(u"not at the top"_s);
+    lower.reject();
+    QCOMPARE(ink(), behindOne);
 }
 
 void TestDialogs::tapOutsideClosesAutoCloseDialog()

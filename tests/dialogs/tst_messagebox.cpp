@@ -48,6 +48,7 @@ class TestMessageBox : public GuardedTest
 private Q_SLOTS:
     void tellsWhatEndedIt_data();
     void tellsWhatEndedIt();
+    void firstKeyNeverOpensTheDetails();
     void translatesItsTexts();
     void showsLongTextsInFull();
     void questionSurvivesItsParent();
@@ -105,6 +106,19 @@ void TestMessageBox::tellsWhatEndedIt()
     });
     QTEST(box.exec(), "result");
     QTEST(box.result(), "result");
+}
+
+void TestMessageBox::firstKeyNeverOpensTheDetails()
+{
+    Screen screen;
+    QvexMessageBox box(&screen);
+    box.setDetailedText(u"Details"_s);
+    box.setStandardButtons(Box::Cancel | Box::Save);
+    soon([&] {
+        key(Qt::Key_Space)(box);
+        box.isRunning() ? box.done(99) : void();
+    });
+    QCOMPARE(box.exec(), int(Box::Save));
 }
 
 void TestMessageBox::translatesItsTexts()
