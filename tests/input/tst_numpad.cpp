@@ -181,6 +181,7 @@ void TestNumpad::entersByTap()
     bench.tapKeys(taps);
     QCOMPARE(bench.look(), look);
     QVERIFY(look == Plain || !bench.reason().isEmpty());
+    QCOMPARE(bench.key(u"NumpadOk"_s)->isEnabled(), look == Plain);
     tap(bench.key(u"NumpadOk"_s));
     QCOMPARE(bench.numpad.isVisible(), look != Plain);
     QCOMPARE(bench.numpad.text(), result);
