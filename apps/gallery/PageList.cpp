@@ -8,6 +8,8 @@
 #include "pages/FaderPage.h"
 #include "pages/HelpDialogPage.h"
 #include "pages/MessageBoxPage.h"
+#include "pages/NumpadPage.h"
+#include "pages/PasswordPage.h"
 #include "pages/PropertiesPage.h"
 #include "pages/SlidingStackPage.h"
 #include "pages/StylesPage.h"
@@ -28,6 +30,6 @@ PageList make()
 PageList makePages()
 {
     return make<PropertiesPage, DialogPage, MessageBoxPage, HelpDialogPage, ButtonTabsPage,
-                TripleActionPage, DelayClickPage, DoubleClickPage, FaderPage, SlidingStackPage,
-                StylesPage, ArtworkPage>();
+                NumpadPage, PasswordPage, TripleActionPage, DelayClickPage, DoubleClickPage,
+                FaderPage, SlidingStackPage, StylesPage, ArtworkPage>();
 }

@@ -68,17 +68,18 @@ void NumpadKeys::addDigits(NumericField::Notation notation)
         return;
     }
     const bool isBase4 = notation == NumericField::Base4 || notation == NumericField::CodingPam4;
+    const bool isHex = notation == NumericField::Hexadecimal;
     const int height = isBase4 ? 2 : 1;
     for (int digit = 1; digit <= (isBase4 ? 3 : 9); ++digit) {
         addDigit(QChar(u'0' + digit), (digit - 1) / 3, (digit - 1) % 3, height);
     }
-    addDigit(u'0', Rows - height, isBase4 ? 0 : 1, height, isBase4 ? 3 : 1);
-    if (notation == NumericField::Hexadecimal) {
-        for (int i = 0; i < 6; ++i) {
-            addDigit(QChar(u'A' + i), i / 2, m_columns + i % 2);
-        }
-        m_columns += 2;
+    for (int i = 0; i < (isHex ? 6 : 0); ++i) {
+        addDigit(QChar(u'A' + i), i / 2, 3 + i % 2);
     }
+    m_columns = isHex ? 5 : 3;
+    // Beside it there are other keys, or nothing.
+    const bool isWide = isBase4 || isHex;
+    addDigit(u'0', Rows - height, isWide ? 0 : 1, height, isWide ? m_columns : 1);
 }
 
 void NumpadKeys::addCommand(Command command, int row, int column, int columns)
