@@ -9,7 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int LongestEntry = 100; // more than 64 binary digits
 constexpr QChar Dot = u'\u25cf';
 
 QString cleaned(const QString &text)
@@ -23,6 +22,9 @@ QString cleaned(const QString &text)
         } else if (character.isPrint() && !character.isSpace()) {
             clean += character.toUpper();
         }
+    }
+    if (clean.startsWith(u'+')) {
+        clean.remove(0, 1);
     }
     return clean;
 }
@@ -59,11 +61,11 @@ NumpadEntry::NumpadEntry(bool isSecret, QWidget *parent)
     , m_isSecret(isSecret)
 {
     setObjectName(u"NumpadEntry"_s);
-    setMaxLength(isSecret ? int(SecretText::Capacity) : LongestEntry);
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(false);
     setDragEnabled(false);
     if (m_isSecret) {
+        setMaxLength(SecretText::Capacity);
         setInputMethodHints(Qt::ImhHiddenText | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText);
     } else {
         connect(this, &QLineEdit::textChanged, this, &NumpadEntry::edited);

@@ -196,6 +196,8 @@ void TestNumpad::entersByKeyboard_data()
     QTest::newRow("typed like in Germany") << u""_s << u"12,5"_s << u"12.50"_s;
     QTest::newRow("sign at the end") << u""_s << u"12-"_s << u"-12.00"_s;
     QTest::newRow("pasted") << u" 1 234,5\n"_s << u""_s << u"1234.50"_s;
+    QTest::newRow("pasted with a sign") << u"+12"_s << u""_s << u"12.00"_s;
+    QTest::newRow("pasted with many zeros") << QString(200, u'0') + u"12"_s << u""_s << u"12.00"_s;
     QTest::newRow("pasted, then typed") << u"-1"_s << u".25"_s << u"-1.25"_s;
     QTest::newRow("pasted in vain") << u"12 apples"_s << u""_s << u"7.00"_s;
     QTest::newRow("out of range") << u""_s << u"-5001"_s << u"7.00"_s;
