@@ -55,7 +55,7 @@ QString buttonStyle(const QPalette &palette)
     return u"QPushButton { min-width: %1px; min-height: %2px; padding: 0 12px; font-size: %3px;"
            " color: %4; background-color: %5; border: 1px solid %6; border-radius: 6px; }"
            "QPushButton:default { font-weight: bold; }"
-           "QPushButton:focus { border: 3px solid palette(highlight); }"
+           "QPushButton:focus { border: 3px solid palette(highlight); outline: none; }"
            "QPushButton:pressed { color: %8; background-color: palette(highlight); }"
            "QPushButton:disabled { color: %7; background-color: transparent;"
            " border: 1px dashed %7; }"_s.arg(buttonWidth - 24)

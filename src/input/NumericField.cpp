@@ -156,7 +156,7 @@ NumericField::Verdict NumericField::check(const QString &text) const
     }
     const qsizetype point = bare.indexOf(u'.');
     if (point >= 0 && bare.size() - point - 1 > m_decimals) {
-        return {Verdict::Refused, tr("At most %n digit(s) after the point", nullptr, m_decimals)};
+        return {Verdict::Refused, tr("Digits after the point: %1 at most").arg(m_decimals)};
     }
     if (const auto number = parse(text)) {
         return checkNumber(*number, bare);
