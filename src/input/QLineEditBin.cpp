@@ -1,0 +1,8 @@
+#include "QLineEditBin.h"
+
+#include "QvexNumpadDlg.h"
+
+QLineEditBin::QLineEditBin(QWidget *parent)
+    : QLineEditRadix(QvexNumpadDlg::Binary, parent)
+{
+}
