@@ -118,6 +118,15 @@ void DialogGuard::remove(QvexDialog *dialog)
     }
 }
 
+void DialogGuard::forgetFocusOf(const QWidget *widget)
+{
+    for (Entry &entry : m_entries) {
+        if (entry.focusBefore == widget) {
+            entry.focusBefore = nullptr;
+        }
+    }
+}
+
 const DialogGuard::Entry *DialogGuard::newestBlocking() const
 {
     const auto entry = std::find_if(m_entries.crbegin(), m_entries.crend(),

@@ -30,6 +30,8 @@ public:
     static void moveFocusInto(QvexDialog *dialog, QWidget *first = nullptr);
     /** Gives the focus of a dialog that ran back to where it was. Does nothing if not added. */
     void remove(QvexDialog *dialog);
+    /** The focus does not go back to @p widget, which is being destroyed. */
+    void forgetFocusOf(const QWidget *widget);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

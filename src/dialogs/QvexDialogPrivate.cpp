@@ -59,7 +59,10 @@ void QvexDialog::Private::setOwner(QWidget *widget)
     owner = widget;
     if (owner) {
         // A shown dialog is a child of its parent application, not of its owner.
-        ownerGone = connect(owner, &QObject::destroyed, q, [this] { delete q; });
+        ownerGone = connect(owner, &QObject::destroyed, q, [this, dying = owner.data()] {
+            DialogGuard::instance().forgetFocusOf(dying);
+            delete q;
+        });
     }
 }
 
@@ -121,6 +124,7 @@ void QvexDialog::Private::moveTo(QWidget *target)
 void QvexDialog::Private::leaveSurface()
 {
     const QPointer<QvexDialog> guard(q);
+    DialogGuard::instance().forgetFocusOf(surface);
     rejectAllIn(surface);
     if (guard) {
         q->hide();

@@ -97,6 +97,7 @@ private Q_SLOTS:
     void endsWithRejected_data();
     void endsWithRejected();
     void belongsToItsParentOnly();
+    void focusDoesNotGoBackToADyingParent();
     void runsInAWindowThatIsNotShown();
     void keepsTouchesFromWhatIsBehind();
     void keepsKeysFromWhatIsBehind();
@@ -302,6 +303,20 @@ void TestDialogs::belongsToItsParentOnly()
     popup.open();
     QVERIFY(popup.isVisible());
     popup.accept();
+}
+
+void TestDialogs::focusDoesNotGoBackToADyingParent()
+{
+    Screen screen;
+    auto *parent = new QPushButton(&screen);
+    parent->show();
+    parent->setFocus();
+    auto *dialog = new QvexDialog(parent);
+    (new QPushButton(dialog))->setFocus();
+    dialog->open();
+    const void *gone = parent;
+    delete parent;
+    QVERIFY(screen.focusWidget() != gone);
 }
 
 void TestDialogs::runsInAWindowThatIsNotShown()
