@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int listWidth = 220;
-constexpr int rowHeight = 52;
+constexpr int rowHeight = 48;
 
 // The colours of the artwork's plates.
 const auto listLook = u"QListWidget { background: #22364a; color: white; outline: 0; }"

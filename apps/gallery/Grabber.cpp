@@ -19,6 +19,11 @@ void closeDialogs()
         popup->close();
     }
     QvexDialog::cancellAllDialogBoxes();
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (auto *panel = qobject_cast<QvexDialog *>(widget); panel && panel->isVisible()) {
+            panel->hide(); // one that is shown, not run
+        }
+    }
 }
 
 } // namespace

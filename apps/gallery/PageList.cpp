@@ -4,10 +4,12 @@
 #include "pages/ButtonTabsPage.h"
 #include "pages/DelayClickPage.h"
 #include "pages/DialogPage.h"
+#include "pages/DirectionKeysPage.h"
 #include "pages/DoubleClickPage.h"
 #include "pages/FaderPage.h"
 #include "pages/HelpDialogPage.h"
 #include "pages/MessageBoxPage.h"
+#include "pages/NumberFieldsPage.h"
 #include "pages/NumpadPage.h"
 #include "pages/PasswordPage.h"
 #include "pages/PropertiesPage.h"
@@ -30,6 +32,7 @@ PageList make()
 PageList makePages()
 {
     return make<PropertiesPage, DialogPage, MessageBoxPage, HelpDialogPage, ButtonTabsPage,
-                NumpadPage, PasswordPage, TripleActionPage, DelayClickPage, DoubleClickPage,
-                FaderPage, SlidingStackPage, StylesPage, ArtworkPage>();
+                NumpadPage, NumberFieldsPage, DirectionKeysPage, PasswordPage, TripleActionPage,
+                DelayClickPage, DoubleClickPage, FaderPage, SlidingStackPage, StylesPage,
+                ArtworkPage>();
 }
