@@ -18,9 +18,9 @@ const QVector<Sign> signs {
     {u":/close-icon-48.png"_s, 48},      {u":/help-icon-48.png"_s, 48},
     {u":/images/home.png"_s, 48},        {u":/images/back.png"_s, 48},
     {u":/images/forward.png"_s, 48},     {u":/images/chevron_down.png"_s, 24},
-    {u":/images/information.png"_s, 64}, {u":/images/question.png"_s, 64},
-    {u":/images/chevron_up.png"_s, 24},  {u":/images/warning.png"_s, 64},
-    {u":/images/critical.png"_s, 64},
+    {u":/images/information.png"_s, 48}, {u":/images/question.png"_s, 48},
+    {u":/images/chevron_up.png"_s, 24},  {u":/images/warning.png"_s, 48},
+    {u":/images/critical.png"_s, 48},
 };
 
 QGridLayout *addGround(QLayout *layout, const QString &colour)
@@ -31,8 +31,8 @@ QGridLayout *addGround(QLayout *layout, const QString &colour)
     frame->setStyleSheet(u"#Ground { background: %1; border-radius: 6px; }"_s.arg(colour));
     layout->addWidget(frame);
     auto *grid = new QGridLayout(frame);
-    grid->setContentsMargins(6, 6, 6, 6);
-    grid->setSpacing(4);
+    grid->setContentsMargins(4, 4, 4, 4);
+    grid->setSpacing(2);
     return grid;
 }
 
