@@ -95,17 +95,18 @@ void NumpadPanel::addVerdict(QVBoxLayout *column)
     m_reason = makeLabel(u"NumpadReason"_s, this);
     m_reason->setFixedHeight(ReasonHeight);
     m_range = makeLabel(u"NumpadRange"_s, this);
+    m_mark->hide();
+    if (m_isSecret) {
+        m_reason->hide();
+        m_range->hide();
+        return;
+    }
     auto *row = new QHBoxLayout;
     row->setSpacing(Spacing);
     row->addWidget(m_mark);
     row->addWidget(m_reason, 1);
-    if (!m_isSecret) {
-        column->addLayout(row);
-        column->addWidget(m_range);
-    }
-    m_range->setVisible(!m_isSecret);
-    m_reason->setVisible(!m_isSecret);
-    m_mark->setVisible(false);
+    column->addLayout(row);
+    column->addWidget(m_range);
 }
 
 void NumpadPanel::addCheckBoxes(QVBoxLayout *column)

@@ -39,7 +39,7 @@ QGridLayout *addGround(QLayout *layout, const QString &colour)
 QLabel *picture(const QString &name)
 {
     auto *label = new QLabel;
-    label->setPixmap(QIcon(name).pixmap(128));
+    label->setPixmap(QIcon(name).pixmap(60));
     label->setAlignment(Qt::AlignCenter);
     return label;
 }
