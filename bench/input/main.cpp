@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "EditRows.h"
 #include "ValidatorRows.h"
 #include "harness/Program.h"
 
@@ -11,6 +12,7 @@ std::vector<Row> measure(const ProgramOptions &options)
 {
     Suite suite;
     addValidatorRows(suite, options);
+    addEditRows(suite, options);
     return suite.run();
 }
 
