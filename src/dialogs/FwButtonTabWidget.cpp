@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QToolButton>
@@ -25,7 +26,7 @@ struct FwButtonTabWidget::Private
 
     bool isValid(int index) const { return index >= 0 && index < buttons.size(); }
     int enabledFrom(int index, int step) const;
-    void drop(QWidget *page);
+    void dropGone();
     void leaveDisabledTab();
     void showCurrent();
 
@@ -39,6 +40,7 @@ struct FwButtonTabWidget::Private
 
     FwButtonTabWidget *const q;
     QList<TabButton *> buttons;
+    QList<const QWidget *> contents; ///< the page of each button; not to be followed
     QStackedWidget *pages = nullptr;
     QToolButton *back = nullptr;
     QToolButton *forth = nullptr;
@@ -75,17 +77,20 @@ int FwButtonTabWidget::Private::enabledFrom(int index, int step) const
     return isValid(index) ? index : -1;
 }
 
-void FwButtonTabWidget::Private::drop(QWidget *page)
+/// Takes away the tabs whose pages were removed, deleted or given another parent.
+void FwButtonTabWidget::Private::dropGone()
 {
-    const int index = pages->indexOf(page);
-    TabButton *button = buttons.takeAt(index);
-    button->hide();
-    button->setAutoExclusive(false);
-    // It may be this very button's click that removes the tab.
-    button->deleteLater();
-    pages->removeWidget(page);
-    leaveDisabledTab();
-    placeRow();
+    for (qsizetype i = contents.size() - 1; i >= 0; --i) {
+        if (pages->indexOf(contents.at(i)) >= 0) {
+            continue;
+        }
+        contents.removeAt(i);
+        TabButton *button = buttons.takeAt(i);
+        button->hide();
+        button->setAutoExclusive(false);
+        // It may be this very button's click that removes the tab.
+        button->deleteLater();
+    }
 }
 
 void FwButtonTabWidget::Private::leaveDisabledTab()
@@ -210,8 +215,14 @@ FwButtonTabWidget::FwButtonTabWidget(QWidget *parent)
     d->forth = d->makeScroller(u"TabsForward"_s, u"forward"_s, 1);
     d->updateTexts();
     connect(d->pages, &QStackedWidget::currentChanged, this, [this](int index) {
+        d->dropGone(); // this comes before widgetRemoved()
         d->showCurrent();
         Q_EMIT currentChanged(index);
+    });
+    connect(d->pages, &QStackedWidget::widgetRemoved, this, [this] {
+        d->dropGone();
+        d->placeRow();
+        d->leaveDisabledTab();
     });
 }
 
@@ -219,9 +230,6 @@ FwButtonTabWidget::~FwButtonTabWidget()
 {
     // The pages go with their tabs, one by one; nobody wants to hear of it.
     d->pages->disconnect(this);
-    for (int i = 0; i < d->pages->count(); ++i) {
-        d->pages->widget(i)->disconnect(this);
-    }
 }
 
 int FwButtonTabWidget::addTab(QWidget *page, const QString &text)
@@ -246,9 +254,9 @@ int FwButtonTabWidget::insertTab(int index, QWidget *page, const QIcon &icon, co
     button->setTabText(text);
     button->setEnabled(page->isEnabled());
     d->buttons.insert(at, button);
+    d->contents.insert(at, page);
     connect(button, &QAbstractButton::clicked, this,
             [this, button] { setCurrentIndex(int(d->buttons.indexOf(button))); });
-    connect(page, &QObject::destroyed, this, [this, page] { d->drop(page); });
     d->pages->insertWidget(at, page);
     d->showCurrent();
     d->placeRow();
@@ -258,9 +266,7 @@ int FwButtonTabWidget::insertTab(int index, QWidget *page, const QIcon &icon, co
 void FwButtonTabWidget::removeTab(int index)
 {
     if (QWidget *page = widget(index)) {
-        page->disconnect(this);
-        d->drop(page);
-        page->hide();
+        d->pages->removeWidget(page); // hides it
     }
 }
 
@@ -393,6 +399,9 @@ void FwButtonTabWidget::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
         return;
     }
+    const QPointer<TabButton> button = d->buttons.at(next);
     setCurrentIndex(next);
-    d->buttons.at(next)->setFocus(Qt::TabFocusReason);
+    if (button) { // else a slot has removed its tab
+        button->setFocus(Qt::TabFocusReason);
+    }
 }

@@ -31,7 +31,10 @@ public:
     int addTab(QWidget *page, const QIcon &icon, const QString &text);
     /** At the end if @p index is out of range. */
     int insertTab(int index, QWidget *page, const QIcon &icon, const QString &text);
-    /** Hides the page but doesn't delete it. A page that is deleted takes its tab along. */
+    /**
+     * Hides the page but doesn't delete it. A page that is deleted or gets another parent takes its
+     * tab along.
+     */
     void removeTab(int index);
 
     int count() const;

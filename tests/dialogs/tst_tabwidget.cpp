@@ -48,6 +48,8 @@ class TestTabWidget : public GuardedTest
 private Q_SLOTS:
     void tapsAndKeysChangeThePage();
     void tabsComeAndGo();
+    void pageGivenAwayTakesItsTabAlong();
+    void slotMayRemoveTheTabThatAKeyChose();
     void longTextsAreElided();
     void tabsThatDoNotFitAreScrolled();
     void tabsAreAccessible();
@@ -98,6 +100,34 @@ void TestTabWidget::tabsComeAndGo()
     tap(last);
     QCOMPARE(tabs.widget.currentIndex(), -1);
     QCOMPARE(tabs.changes->last().first().toInt(), -1);
+}
+
+void TestTabWidget::pageGivenAwayTakesItsTabAlong()
+{
+    Tabs from({u"a"_s, u"b"_s, u"c"_s});
+    FwButtonTabWidget to;
+    QLabel *page = qobject_cast<QLabel *>(from.widget.widget(0));
+    to.addTab(page, u"A"_s);
+    QCOMPARE(from.widget.count(), 2);
+    QCOMPARE(from.current(), u"b"_s);
+    QCOMPARE(from.widget.tabText(0), u"b"_s);
+    delete page;
+    QCOMPARE(to.count(), 0);
+    QCOMPARE(from.widget.count(), 2);
+}
+
+void TestTabWidget::slotMayRemoveTheTabThatAKeyChose()
+{
+    Tabs tabs({u"a"_s, u"b"_s, u"c"_s});
+    connect(&tabs.widget, &FwButtonTabWidget::currentChanged, &tabs.widget, [&](int index) {
+        if (index == 2) {
+            tabs.widget.removeTab(2);
+        }
+    });
+    tabs.widget.tabButton(0)->setFocus();
+    QTest::keyClick(tabs.widget.tabButton(0), Qt::Key_End);
+    QCOMPARE(tabs.widget.count(), 2);
+    QCOMPARE(tabs.current(), u"b"_s);
 }
 
 void TestTabWidget::longTextsAreElided()
