@@ -79,7 +79,7 @@ struct QvexMessageBox::Private
     QPlainTextEdit *details = nullptr;
     QPushButton *detailsButton = nullptr;
     Box *buttons = nullptr;
-    QList<QAbstractButton *> ownButtons;
+    QList<QPointer<QAbstractButton>> ownButtons; ///< null where one was deleted
     QPointer<QAbstractButton> clicked;
 };
 

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void tellsWhatEndedIt_data();
     void tellsWhatEndedIt();
     void firstKeyNeverOpensTheDetails();
+    void buttonMayBeDeleted();
     void translatesItsTexts();
     void showsLongTextsInFull();
     void questionSurvivesItsParent();
@@ -119,6 +120,22 @@ void TestMessageBox::firstKeyNeverOpensTheDetails()
         box.isRunning() ? box.done(99) : void();
     });
     QCOMPARE(box.exec(), int(Box::Save));
+}
+
+void TestMessageBox::buttonMayBeDeleted()
+{
+    Screen screen;
+    QvexMessageBox box(&screen);
+    alignas(QPushButton) std::array<std::byte, sizeof(QPushButton)> place;
+    // The second has the address of the first, as it may happen with any new button.
+    for (const int code : {2, 3}) {
+        auto *button = new (place.data()) QPushButton(u"Own"_s);
+        box.addButton(button, Box::AcceptRole);
+        soon([&] { button->click(), box.isRunning() ? box.done(99) : void(); });
+        const int result = box.exec();
+        button->~QPushButton();
+        QCOMPARE(result, code);
+    }
 }
 
 void TestMessageBox::translatesItsTexts()
