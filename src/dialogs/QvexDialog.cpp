@@ -217,17 +217,16 @@ int QvexDialog::exec()
     setAttribute(Qt::WA_DeleteOnClose, false);
     const QPointer<QvexDialog> guard(this);
     QEventLoop loop;
-    d->loop = &loop;
     run();
     if (guard && d->running) {
+        d->loop = &loop;
         loop.exec(QEventLoop::DialogExec);
     }
     if (!guard) {
         return Rejected;
     }
-    d->loop = nullptr;
-    if (d->running) {
-        // The application quits.
+    if (d->loop == &loop) {
+        // The dialog runs on, but the application quits. Were it done, it might run anew by now.
         reject();
     }
     const int answer = guard ? result() : int(Rejected);

@@ -5,6 +5,8 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 
+#include <utility>
+
 #include "DialogGuard.h"
 #include "DialogTheme.h"
 
@@ -165,8 +167,8 @@ void QvexDialog::Private::leave()
     if (host) {
         host->hide();
     }
-    if (loop) {
-        loop->exit();
+    if (QEventLoop *ended = std::exchange(loop, nullptr)) {
+        ended->exit();
     }
     // The focus goes back to the application, which may then do anything: delete the dialog, too.
     DialogGuard::instance().remove(q);

@@ -149,6 +149,11 @@ void TestDialogs::runsUntilDone()
     QCOMPARE(form.exec(), 5);
     QVERIFY(!form.isVisible());
     QCOMPARE(QApplication::focusWidget(), screen.button);
+    // A slot that opens it again.
+    connect(&form, &QDialog::finished, &form, &QvexDialog::open, Qt::SingleShotConnection);
+    soon([&] { form.accept(); });
+    form.exec();
+    QVERIFY(form.isRunning() && form.isVisible());
 }
 
 void TestDialogs::logsWhatHappensToTheStack_data()
