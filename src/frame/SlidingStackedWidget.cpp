@@ -84,9 +84,13 @@ bool SlidingStackedWidget::slideInWgt(QWidget *page, t_direction direction)
         return false;
     }
     m_active = true;
+    m_preparing = true;
+    const QRect place = contentsRect();
     preparePages(page,
                  direction == Automatic ? directionTowards(index > currentIndex()) : direction);
-    return runSlide();
+    m_preparing = false;
+    runSlide(place);
+    return true;
 }
 
 Direction SlidingStackedWidget::directionTowards(bool later) const
@@ -119,14 +123,14 @@ void SlidingStackedWidget::preparePages(QWidget *page, t_direction direction)
     const QPoint way = offset(direction);
     m_outgoing = currentWidget();
     m_incoming = page;
-    m_incoming->setGeometry(contentsRect());
     m_outgoingPosition = m_outgoing->pos();
-    m_incomingPosition = m_incoming->pos();
+    page->setGeometry(contentsRect());
+    m_incomingPosition = page->pos();
 
     m_outgoingAnimation->setTargetObject(m_outgoing);
     m_outgoingAnimation->setStartValue(m_outgoingPosition);
     m_outgoingAnimation->setEndValue(m_outgoingPosition + way);
-    m_incomingAnimation->setTargetObject(m_incoming);
+    m_incomingAnimation->setTargetObject(page);
     m_incomingAnimation->setStartValue(m_incomingPosition - way);
     m_incomingAnimation->setEndValue(m_incomingPosition);
     for (QPropertyAnimation *animation : {m_outgoingAnimation, m_incomingAnimation}) {
@@ -134,19 +138,26 @@ void SlidingStackedWidget::preparePages(QWidget *page, t_direction direction)
         animation->setEasingCurve(m_animation);
     }
 
-    m_incoming->move(m_incomingPosition - way);
-    m_incoming->show();
-    m_incoming->raise();
+    page->move(m_incomingPosition - way);
+    page->raise();
+    page->show();
 }
 
-bool SlidingStackedWidget::runSlide()
+/// @p place is where the pages were when they were prepared. What sees one of them get its size or
+/// come up may have disturbed the slide already.
+void SlidingStackedWidget::runSlide(const QRect &place)
 {
     const QPointer<SlidingStackedWidget> self(this);
     Q_EMIT animationStarted();
-    if (self && m_active) {
-        m_group->start();
+    if (!self || !m_active) {
+        return;
     }
-    return true;
+    const bool isWhole = indexOf(m_incoming) >= 0 && m_outgoing && currentWidget() == m_outgoing;
+    if (isWhole && contentsRect() == place) {
+        m_group->start();
+    } else {
+        animationDoneSlot();
+    }
 }
 
 /// Somebody else made a page current, unless it is the stack that replaces a removed one.
@@ -168,7 +179,7 @@ void SlidingStackedWidget::followRemoval()
 
 void SlidingStackedWidget::animationDoneSlot()
 {
-    if (!m_active || m_ending) {
+    if (!m_active || m_preparing || m_ending) {
         return;
     }
     const QPointer<SlidingStackedWidget> self(this);

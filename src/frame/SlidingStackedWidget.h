@@ -94,7 +94,7 @@ private:
     t_direction directionTowards(bool later) const;
     QPoint offset(t_direction direction) const;
     void preparePages(QWidget *page, t_direction direction);
-    bool runSlide();
+    void runSlide(const QRect &place);
     void followChosenPage();
     void followRemoval();
     void putAway(QWidget *page, QPoint position);
@@ -107,6 +107,7 @@ private:
     bool m_locked = false;
 
     bool m_active = false;
+    bool m_preparing = false; ///< the slide does not end before its start was told
     bool m_ending = false;
     QPointer<QWidget> m_outgoing;
     QPointer<QWidget> m_incoming;

@@ -78,6 +78,27 @@ struct Stack
     QSignalSpy finished {stack, &SlidingStackedWidget::animationFinished};
 };
 
+/// Does something when a widget comes up, once.
+struct OnShow : QObject
+{
+    OnShow(QWidget *widget, std::function<void()> act)
+        : m_act(std::move(act))
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show && m_act) {
+            std::exchange(m_act, nullptr)();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> m_act;
+};
+
 using Slide = std::function<bool(SlidingStackedWidget &)>;
 using Fault = std::function<void(Stack &)>;
 
@@ -186,6 +207,20 @@ private Q_SLOTS:
         }
         QCOMPARE(stack.settledPage(), page);
         QCOMPARE(stack.stack->slideInIdx(0), page >= 0);
+    }
+
+    void startIsToldBeforeTheEnd()
+    {
+        Stack stack;
+        QString told;
+        stack.stack->connect(stack.stack, &SlidingStackedWidget::animationStarted, stack.stack,
+                             [&] { told += u'S'; });
+        stack.stack->connect(stack.stack, &SlidingStackedWidget::animationFinished, stack.stack,
+                             [&] { told += u'F'; });
+        OnShow onShow(stack.pages[2], [&] { delete stack.pages[1]; });
+        QVERIFY(stack.stack->slideInNext());
+        QCOMPARE(told, u"SF"_s);
+        QCOMPARE(stack.settledPage(), 2);
     }
 
     void refusesAndLocksUntilTheEnd()
