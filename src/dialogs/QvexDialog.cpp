@@ -34,13 +34,15 @@ QvexDialog::QvexDialog(QWidget *parent)
 
 QvexDialog::QvexDialog(QWidget *parent, bool withBorderButtons, bool movable)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
-    , d(std::make_unique<Private>(this, withBorderButtons, movable))
+    , d(std::make_unique<Private>(this, withBorderButtons))
 {
     init(withBorderButtons, movable);
 }
 
 QvexDialog::~QvexDialog()
 {
+    d->border->disconnect(this);
+    d->shield->disconnect(this);
     disconnect(d->ownerGone);
     disconnect(d->surfaceGone);
     m_dialogStack.removeAll(this);
@@ -54,6 +56,13 @@ void QvexDialog::init(bool withBorderButtons, bool movable)
 {
     setAttribute(Qt::WA_NoMousePropagation);
     d->setOwner(parentWidget());
+    d->makeShield();
+    d->makeBorder(withBorderButtons, movable);
+}
+
+/// Wires a border that is new.
+void QvexDialog::initBorder(bool withBorderButtons, bool movable)
+{
     const QvexDialogBorder &border = *d->border;
     connect(border.closeButton(), &QAbstractButton::clicked, this, &QvexDialog::closeDialog);
     connect(border.helpButton(), &QAbstractButton::clicked, this, &QvexDialog::helpDialog);

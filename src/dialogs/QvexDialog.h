@@ -125,6 +125,7 @@ private:
     struct Private;
 
     void init(bool withBorderButtons, bool movable);
+    void initBorder(bool withBorderButtons, bool movable);
     void initSize();
     std::optional<int> refusal() const;
     void run();

@@ -31,15 +31,38 @@ int clamped(int pos, int length, int space, int spare, bool keepEnd)
 
 } // namespace
 
-QvexDialog::Private::Private(QvexDialog *dialog, bool withBorderButtons, bool movable)
+QvexDialog::Private::Private(QvexDialog *dialog, bool withBorderButtons)
     : q(dialog)
-    , border(std::make_unique<QvexDialogBorder>(withBorderButtons, movable))
-    , shield(std::make_unique<QWidget>())
     , withButtons(withBorderButtons)
 {
+}
+
+/// Whoever deletes what is in the parent application deletes the border as well, and the shield,
+/// but not necessarily the dialog. It is hidden then, and gets new ones.
+void QvexDialog::Private::makeBorder(bool withBorderButtons, bool movable)
+{
+    border = std::make_unique<QvexDialogBorder>(withBorderButtons, movable);
+    q->initBorder(withBorderButtons, movable);
+    connect(border.get(), &QObject::destroyed, q, [this, withBorderButtons, movable] {
+        static_cast<void>(border.release());
+        makeBorder(withBorderButtons, movable);
+        border->setTitle(title);
+        border->setHelpVisible(withBorderButtons && !helpUrl.isEmpty());
+        q->hide();
+    });
+}
+
+void QvexDialog::Private::makeShield()
+{
+    shield = std::make_unique<QWidget>();
     shield->setObjectName(u"DlgShield"_s);
     shield->setAttribute(Qt::WA_NoMousePropagation);
     shield->setAutoFillBackground(true);
+    connect(shield.get(), &QObject::destroyed, q, [this] {
+        static_cast<void>(shield.release());
+        makeShield();
+        q->hide();
+    });
 }
 
 QWidget *QvexDialog::Private::parentApplication() const

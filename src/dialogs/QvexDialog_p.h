@@ -10,7 +10,10 @@ class QEventLoop;
 /// Where a dialog is drawn, and what surrounds it there.
 struct QvexDialog::Private
 {
-    Private(QvexDialog *dialog, bool withBorderButtons, bool movable);
+    Private(QvexDialog *dialog, bool withBorderButtons);
+
+    void makeBorder(bool withBorderButtons, bool movable);
+    void makeShield();
 
     QWidget *parentApplication() const;
     void setOwner(QWidget *widget);

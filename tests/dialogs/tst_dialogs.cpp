@@ -245,6 +245,11 @@ void TestDialogs::endsWithRejected_data()
         << Act([](Nest &, Screen *&) { QCoreApplication::exit(); }) << u"321"_s;
     QTest::newRow("window deleted")
         << Act([](Nest &, Screen *&screen) { delete std::exchange(screen, nullptr); }) << u"321"_s;
+    QTest::newRow("window emptied") << Act([](Nest &, Screen *&screen) {
+        while (!screen->children().isEmpty()) {
+            delete screen->children().last();
+        }
+    }) << QString();
     QTest::newRow("deleted, newest first") << Act([](Nest &nest, Screen *&) {
         delete nest.dialogs[2];
         QCOMPARE(QvexDialog::activeDialog(), nest.dialogs[1].data());
