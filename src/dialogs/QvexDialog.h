@@ -75,7 +75,10 @@ public:
     /** While set, exec() and open() end at once with Rejected. Running dialogs stay. */
     static void setRemoteLock(bool locked);
     static bool isRemoteLocked();
-    /** Rejects all running dialogs, newest first. */
+    /**
+     * Rejects all running dialogs, newest first, also those that slots of finished() open
+     * meanwhile.
+     */
     static void cancellAllDialogBoxes();
     /** The newest running dialog; null when none runs. */
     static QvexDialog *activeDialog();

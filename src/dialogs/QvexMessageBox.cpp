@@ -204,6 +204,9 @@ QvexMessageBox::Icon QvexMessageBox::icon() const
 
 void QvexMessageBox::setIcon(Icon icon)
 {
+    if (icon < NoIcon || icon > Question) {
+        return; // from a property that was set to some number
+    }
     d->icon = icon;
     d->picture->setPixmap(icon == NoIcon ? QPixmap() : pictureOf(icon));
     d->picture->setVisible(icon != NoIcon);

@@ -59,7 +59,7 @@ public:
     /** Null if it is not there. */
     QPushButton *button(StandardButton button) const;
 
-    /** The one that Return presses; it has the focus at first. */
+    /** The one that Return presses; it has the focus at first. It must have been added before. */
     void setDefaultButton(StandardButton button);
     /** Null as long as none was clicked. */
     QAbstractButton *clickedButton() const;
