@@ -51,7 +51,9 @@ public:
     /** Times 10 to the power of @p exponent; nothing when digits would get lost. */
     std::optional<DecimalNumber> shifted(int exponent) const;
 
-    friend constexpr auto operator<=>(DecimalNumber one, DecimalNumber other) = default;
+    // clang-tidy 14 takes the result for a pointer.
+    friend constexpr auto // NOLINTNEXTLINE(modernize-use-nullptr)
+    operator<=>(DecimalNumber one, DecimalNumber other) = default;
 
 private:
     __extension__ using Units = __int128;

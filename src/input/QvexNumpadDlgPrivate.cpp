@@ -134,7 +134,7 @@ Verdict QvexNumpadDlg::Private::verdict() const
         const bool saysNothing = isSecret() || !text.isEmpty();
         return {Verdict::Valid, saysNothing ? QString() : tr("The value stays as it is")};
     }
-    const Verdict plain = field.check(text);
+    Verdict plain = field.check(text);
     if (plain.state == Verdict::Valid) {
         return plain;
     }

@@ -204,7 +204,7 @@ void QvexPasswordPopup::UpdateText() { }
 void QvexPasswordPopup::accept()
 {
     QString entered = lineEditText();
-    const bool fits = d->password.assign(entered);
+    [[maybe_unused]] const bool fits = d->password.assign(entered);
     Q_ASSERT(fits);
     SecretText::wipe(entered);
     lineEditClear();
