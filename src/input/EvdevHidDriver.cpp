@@ -45,6 +45,9 @@ struct Bits
     }
 };
 
+/// Keyboards and mice have axes, too.
+constexpr int MostKeysBesideAWheel = 1;
+
 bool isPartOfAKeypad(int fd)
 {
     Bits<REL_CNT> axes;
@@ -52,9 +55,17 @@ bool isPartOfAKeypad(int fd)
     const bool hasAxes = ::ioctl(fd, EVIOCGBIT(EV_REL, sizeof axes.words), axes.words.data()) >= 0;
     const bool hasKeys = ::ioctl(fd, EVIOCGBIT(EV_KEY, sizeof keys.words), keys.words.data()) >= 0;
     if (hasAxes && axes.count() > 0) {
-        return !(axes.has(REL_X) && axes.has(REL_Y));
+        const bool isPointer = axes.has(REL_X) && axes.has(REL_Y);
+        return !isPointer && (!hasKeys || keys.count() <= MostKeysBesideAWheel);
     }
     return hasKeys && keys.count() == 1 && (keys.has(BTN_0) || keys.has(KEY_SELECT));
+}
+
+/// Whether an axis counts detents. The kernel reports the turns of many wheels twice, the second
+/// time in 120ths of a detent.
+bool isWheel(int axis)
+{
+    return axis != REL_WHEEL_HI_RES && axis != REL_HWHEEL_HI_RES;
 }
 
 } // namespace
@@ -226,7 +237,7 @@ void EvdevHidDriver::take(Device &device, const input_event &event)
         }
         device.detents = 0;
         device.hasLost = false;
-    } else if (event.type == EV_REL) {
+    } else if (event.type == EV_REL && isWheel(event.code)) {
         device.detents += event.value;
     } else if (event.type == EV_KEY && device.isPressed != (event.value != 0)) {
         device.isPressed = event.value != 0;

@@ -187,6 +187,7 @@ void TestHid::inputDevicesComeAndGo()
     QTRY_COMPARE(VexHID::Instance()->isListening(), true);
     first.send(EV_REL, REL_DIAL, -1);
     first.send(EV_REL, REL_DIAL, -1);
+    first.send(EV_REL, REL_WHEEL_HI_RES, -240); // the same once more, finer
     first.send(EV_SYN, SYN_REPORT, 0);
     stranger.send(EV_REL, REL_DIAL, 5);
     QTRY_COMPARE(m_signals, QStringList({u"turned -2, mode 0"_s}));
