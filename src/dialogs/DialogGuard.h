@@ -32,6 +32,8 @@ public:
     void remove(QvexDialog *dialog);
     /** The focus does not go back to @p widget, which is being destroyed. */
     void forgetFocusOf(const QWidget *widget);
+    /** Whether no dialog keeps touches and keys from @p widget. */
+    bool isOpenTo(const QWidget *widget) const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -50,7 +52,6 @@ private:
 
     DialogGuard();
     const Entry *newestBlocking() const;
-    bool isOpenTo(const QWidget *widget) const;
     bool isOpenToOwner(const QObject *owner) const;
     void raiseAbove(const QWidget *widget);
     void keepFocus(QWidget *now);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "dialogs/DialogGuard.h"
 #include "properties/PropertiesManager.h"
 
 #include "DecimalNumber.h"
@@ -222,10 +223,11 @@ void QLineEditNumber::connectKeys()
     connect(d->lrud, &Lrud::clickedShowNumpad, this, &Field::on_showNumpad);
     connect(d->lrud, &Lrud::hidden, this, &Field::on_hidden);
     connect(d->lrud, &QObject::destroyed, this, &Field::on_hidden);
-    // What is on its way from the keypad's thread arrives even after the connection was cut.
+    // What is on its way from the keypad's thread arrives even after the connection was cut. A
+    // wheel of hardware reaches what is behind a dialog no more than a finger does.
     d->keypad = connect(VexHID::Instance(), &VexHID::AdvanceWheel, this,
                         [this](int numSteps, int modeOverride) {
-                            if (d->selectionEnabled) {
+                            if (d->selectionEnabled && DialogGuard::instance().isOpenTo(this)) {
                                 Q_EMIT advanceWheel(numSteps, modeOverride);
                             }
                         });
@@ -315,7 +317,7 @@ void QLineEditNumber::on_right()
 
 void QLineEditNumber::on_autoRepeatUp()
 {
-    if (isLeftButtonHeld()) {
+    if (isLeftButtonHeld() && DialogGuard::instance().isOpenTo(this)) {
         d->keys.repeat(KeyTimers::Up);
         Q_EMIT advanceWheel(1, ChangeValue);
     }
@@ -323,7 +325,7 @@ void QLineEditNumber::on_autoRepeatUp()
 
 void QLineEditNumber::on_autoRepeatDown()
 {
-    if (isLeftButtonHeld()) {
+    if (isLeftButtonHeld() && DialogGuard::instance().isOpenTo(this)) {
         d->keys.repeat(KeyTimers::Down);
         Q_EMIT advanceWheel(-1, ChangeValue);
     }

@@ -397,6 +397,14 @@ void TestLineEdits::keypadTurnsTheOpenField()
     m_keypad->turn(-2);
     QTRY_COMPARE(other.text(), u"3"_s);
     QCOMPARE(m_field->text(), u"8"_s);
+    QvexDialog question(&*m_screen);
+    question.open();
+    bool isTurned = false;
+    connect(VexHID::Instance(), &VexHID::AdvanceWheel, &question, [&] { isTurned = true; });
+    m_keypad->turn(5);
+    QTRY_VERIFY(isTurned);
+    QCOMPARE(other.text(), u"3"_s);
+    question.reject();
     other.hide();
     QVERIFY(!keys().isVisible());
 }
