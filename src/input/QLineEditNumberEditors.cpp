@@ -199,10 +199,13 @@ void QLineEditNumber::takeKeys()
 
 void QLineEditNumber::closeWheelEditor()
 {
+    const QPointer<QLineEditNumber> guard(this);
     if (d->selectionEnabled && d->lrud) {
         d->lrud->hide();
     }
-    on_hidden();
+    if (guard) {
+        on_hidden();
+    }
 }
 
 void QLineEditNumber::connectKeys()
@@ -257,7 +260,9 @@ void QLineEditNumber::on_showNumpad()
     const QPointer<QLineEditNumber> guard(this);
     rememberEditor(true);
     closeWheelEditor();
-    runNumpad();
+    if (guard) {
+        runNumpad();
+    }
     if (guard) {
         selectDigit();
     }

@@ -483,6 +483,8 @@ void TestLineEdits::deletedInItsEditor_data()
 {
     QTest::addColumn<QString>("editor");
     QTest::newRow("wheel") << u"wheel"_s;
+    QTest::newRow("wheel, by its end") << u"wheel's end"_s;
+    QTest::newRow("wheel, before the numpad") << u"wheel to numpad"_s;
     QTest::newRow("numpad") << u"numpad"_s;
     QTest::newRow("numpad of a radix") << u"radix"_s;
 }
@@ -497,13 +499,20 @@ void TestLineEdits::deletedInItsEditor()
         field->show();
     }
     const auto remove = [&] { field == m_field.get() ? m_field.reset() : delete field; };
-    if (editor != u"wheel") {
+    if (!editor.startsWith(u"wheel")) {
         soon(remove);
     }
     tapThrough(field);
+    QObject context;
     if (editor == u"wheel") {
         Q_EMIT keys().pressedUp();
         remove();
+    } else if (editor == u"wheel's end") {
+        connect(&keys(), &QLrudDialog::hidden, &context, remove);
+        QTest::keyClick(field, Qt::Key_Escape);
+    } else if (editor == u"wheel to numpad") {
+        connect(&keys(), &QLrudDialog::hidden, &context, remove);
+        Q_EMIT keys().clickedShowNumpad();
     }
     QVERIFY(!keys().isVisible());
     QVERIFY(!QvexDialog::activeDialog());
