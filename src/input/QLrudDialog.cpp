@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QPropertyAnimation>
+#include <QScopedValueRollback>
 
 #include <array>
 #include <optional>
@@ -151,6 +152,7 @@ struct QLrudDialog::Private
     Key moveUp;
     Key moveDown;
     Key numpad;
+    bool isHiding = false;
     std::optional<Direction> passedTo; ///< the arrow key that took a press from its neighbour
 };
 
@@ -338,8 +340,10 @@ QLrudDialog::~QLrudDialog()
 {
     // Who listens to hidden() may still ask for the instance.
     hide();
-    qRemovePostRoutine(&QLrudDialog::Destroy);
-    m_Instance = nullptr;
+    if (m_Instance == this) {
+        qRemovePostRoutine(&QLrudDialog::Destroy);
+        m_Instance = nullptr;
+    }
 }
 
 QLrudDialog *QLrudDialog::Instance()
@@ -354,7 +358,13 @@ QLrudDialog *QLrudDialog::Instance()
 
 void QLrudDialog::Destroy()
 {
-    delete m_Instance;
+    if (m_Instance && m_Instance->d->isHiding) {
+        // The toolkit goes on with a widget after its hide event.
+        qRemovePostRoutine(&QLrudDialog::Destroy);
+        std::exchange(m_Instance, nullptr)->deleteLater();
+    } else {
+        delete m_Instance;
+    }
 }
 
 void QLrudDialog::releaseAllButton()
@@ -392,12 +402,10 @@ void QLrudDialog::showEvent(QShowEvent *event)
 
 void QLrudDialog::hideEvent(QHideEvent *event)
 {
-    const QPointer<QLrudDialog> guard(this);
+    const QScopedValueRollback hiding(d->isHiding, true);
     d->letGoAll();
-    if (guard) {
-        QvexDialog::hideEvent(event);
-    }
-    if (guard && !event->spontaneous()) {
+    QvexDialog::hideEvent(event);
+    if (!event->spontaneous()) {
         d->slide.stop();
         Q_EMIT hidden();
     }

@@ -321,6 +321,11 @@ void TestLrud::hidesOnce_data()
     QTest::newRow("the window goes") << Act([](TestLrud &test) { test.m_window.reset(); }) << true;
     QTest::newRow("its owner goes") << Act([](TestLrud &test) { test.m_owner.reset(); }) << false;
     QTest::newRow("destroyed") << Act([](TestLrud &) { QLrudDialog::Destroy(); }) << false;
+    QTest::newRow("destroyed by who hears of its end") << Act([](TestLrud &) {
+        QLrudDialog *dialog = QLrudDialog::Instance();
+        connect(dialog, &QLrudDialog::hidden, dialog, &QLrudDialog::Destroy);
+        dialog->hide();
+    }) << false;
 }
 
 /// While two keys are held, whose releases are lost.
