@@ -1,5 +1,7 @@
 #include "VexHID.h"
 
+#include <QCoreApplication>
+
 #include "VexHidDriver.h"
 
 namespace {
@@ -33,6 +35,8 @@ VexHID *VexHID::Instance()
     if (!m_Instance) {
         m_Instance =
             new VexHID(s_nextDriver ? std::move(s_nextDriver) : VexHidDriver::forThisSystem());
+        // Or else nobody would close the keypad.
+        qAddPostRoutine(&VexHID::Destroy);
         m_Instance->moveToThread(&m_Instance->m_thread);
         m_Instance->m_thread.start(QThread::InheritPriority);
         QMetaObject::invokeMethod(m_Instance, "_Loop", Qt::QueuedConnection);
@@ -45,6 +49,7 @@ void VexHID::Destroy()
     if (!m_Instance) {
         return;
     }
+    qRemovePostRoutine(&VexHID::Destroy);
     std::atomic<int> &state = m_Instance->m_loopState;
     // A loop that has not begun yet finds that it must not.
     int expected = Idle;

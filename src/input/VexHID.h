@@ -25,7 +25,8 @@ public:
     static VexHID *Instance();
     /**
      * Stops listening and deletes the instance. It blocks until the driver's listening call
-     * returns, a fraction of a second; without an instance it does nothing.
+     * returns, a fraction of a second; without an instance it does nothing. At the application's
+     * end it happens by itself.
      */
     static void Destroy();
 
