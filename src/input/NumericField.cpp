@@ -88,7 +88,7 @@ int NumericField::digits() const
 {
     if (m_notation == Decimal) {
         const DecimalNumber largest = std::max(m_maximum, -m_minimum);
-        return int(largest.toText(0).size()) + m_decimals;
+        return int(largest.toText(m_decimals).size()) - (m_decimals > 0 ? 1 : 0);
     }
     return int(QString::number(m_maximum.toUnsigned(), radix()).size());
 }

@@ -246,6 +246,8 @@ void TestNumericField::writesRadixNotations()
 
 void TestNumericField::whatIsShownIsStored()
 {
+    QCOMPARE(field("-9.994", "1", 2).digits(), 3);
+    QCOMPARE(field("0", "9.996", 2).digits(), 4);
     QRandomGenerator random(7);
     for (int i = 0; i < 20'000; ++i) {
         NumericField edited = field("-1000.125", "1000.125", random.bounded(16));
