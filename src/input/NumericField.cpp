@@ -129,6 +129,9 @@ bool NumericField::isAllowed(QChar character) const
     if (m_notation == Decimal && character == u'-') {
         return mayBeNegative();
     }
+    if (m_notation == Decimal && character == u'+') {
+        return true;
+    }
     bool isDigit = false;
     QString(character).toInt(&isDigit, radix());
     return isDigit && character != u'-' && character != u'+';

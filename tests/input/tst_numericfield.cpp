@@ -173,6 +173,8 @@ void TestNumericField::judgesEntries_data()
     row(percent, u"100.01"_s, refused);
     row(percent, u"1.2.3"_s, refused);
     row(percent, u"1x"_s, refused);
+    row(percent, u"+1"_s, valid);
+    row(percent, u"+-1"_s, refused);
     const NumericField port = field("1024", "65535", 0);
     row(port, u"1"_s, unfinished);
     row(port, u"102"_s, unfinished);
