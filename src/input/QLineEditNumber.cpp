@@ -199,6 +199,11 @@ double QLineEditNumber::step() const
     return d->numpad->step();
 }
 
+void QLineEditNumber::setUnitKeys(const QString &unit, const QStringList &prefixes)
+{
+    d->numpad->setUnitKeys(unit, prefixes);
+}
+
 void QLineEditNumber::setTitle(const QString &title)
 {
     if (accessibleName() == d->title) {

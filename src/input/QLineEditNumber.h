@@ -72,6 +72,8 @@ public:
     /** The least by which a wheel changes the value; 0, the default: the selected digit's 1. */
     void setStep(double step);
     double step() const;
+    /** Keys of the numpad that multiply and accept, see QvexNumpadDlg::setUnitKeys(). */
+    void setUnitKeys(const QString &unit, const QStringList &prefixes);
     /** The numpad's title, and the field's accessible name unless that was set otherwise. */
     void setTitle(const QString &title);
     QString title() const;

@@ -155,6 +155,7 @@ private Q_SLOTS:
     void keypadTurnsTheOpenField();
     void ordinaryWheelScrollsThePage();
     void numpadIsAsked();
+    void unitKeysArePassedOn();
     void editorsAreSwitched();
     void deletedInItsEditor_data();
     void deletedInItsEditor();
@@ -457,6 +458,16 @@ void TestLineEdits::numpadIsAsked()
         QCOMPARE(m_field->text(), accepted ? u"4 321"_s : u"1 234"_s);
         QCOMPARE(hex.value(), accepted ? 0x4321U : 0x1234U);
     }
+}
+
+void TestLineEdits::unitKeysArePassedOn()
+{
+    choose(*m_field, true);
+    m_field->setDecimals(3);
+    m_field->setUnitKeys(u"V"_s, {u"m"_s, QString()});
+    soon([] { QTest::keyClicks(QApplication::focusWidget(), u"1500m"_s); });
+    tap(m_field.get());
+    QCOMPARE(m_field->text(), u"1.500"_s);
 }
 
 void TestLineEdits::editorsAreSwitched()
