@@ -16,6 +16,8 @@
  * reaches over all 64-bit integers and has up to 15 decimals, exactly. A field that was given no
  * value yet is empty.
  *
+ * Under the remote lock of the dialogs neither of the two opens.
+ *
  * While the wheel editor is open the field has leading zeros where the selected digit needs them:
  * 100 less the hundred is 000, so that the next step brings the hundred back. An ordinary wheel
  * counts only then; otherwise it scrolls what is behind the field.

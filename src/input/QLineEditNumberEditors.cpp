@@ -171,6 +171,9 @@ void QLineEditNumber::runNumpad()
 /// Opens it at the text cursor; where it is open already it only selects the digit there.
 void QLineEditNumber::openWheelEditor()
 {
+    if (QvexDialog::isRemoteLocked()) {
+        return; // as for the numpad
+    }
     d->lastDirection = 0;
     d->cursor.place(text(), cursorPosition());
     if (!d->selectionEnabled) {

@@ -121,7 +121,8 @@ public:
      * Keys that multiply the entry and accept it at once, named by a prefix and the unit: "m" and
      * "V" make the key "mV". Prefixes are "p", "n", "µ", "m", "", "k", "M" and "G". The value is
      * stored in the bare unit, exactly; a key whose product has too many decimals is refused with
-     * the reason. An empty list, the default, takes the keys away.
+     * the reason, and so is one before anything was typed. An empty list, the default, takes the
+     * keys away.
      */
     void setUnitKeys(const QString &unit, const QStringList &prefixes);
 

@@ -102,10 +102,17 @@ void QvexNumpadDlg::Private::showField()
 
 void QvexNumpadDlg::Private::fieldChanged()
 {
-    if (q->isVisible()) {
-        updateKeys();
-        showField();
+    if (!q->isVisible()) {
+        return;
     }
+    // Where nothing was typed yet, the entry is the value that the program has just set.
+    const bool isOld = !isSecret() && madePanel->entry()->text() == oldText;
+    oldText = isSecret() ? QString() : field.text();
+    if (isOld && madePanel->entry()->text() != oldText) {
+        madePanel->entry()->begin(oldText, !preserveText);
+    }
+    updateKeys();
+    showField();
 }
 
 void QvexNumpadDlg::Private::setUnits(const QString &newUnit, const QStringList &newPrefixes)
@@ -187,6 +194,12 @@ void QvexNumpadDlg::Private::command(NumpadKeys::Command command)
 
 void QvexNumpadDlg::Private::multiply(const QString &prefix)
 {
+    const NumpadEntry *entry = madePanel->entry();
+    if (entry->text() == oldText && !entry->isModified()) {
+        // The old value a thousand times over is nothing that anybody meant.
+        madePanel->showVerdict({Verdict::Unfinished, tr("Enter a number")});
+        return;
+    }
     const auto [value, reason] = UnitPrefix::valueOf(field, madePanel->entry()->text(), prefix);
     if (!value) {
         madePanel->showVerdict({Verdict::Refused, reason});

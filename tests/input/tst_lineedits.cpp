@@ -155,6 +155,7 @@ private Q_SLOTS:
     void keypadTurnsTheOpenField();
     void ordinaryWheelScrollsThePage();
     void numpadIsAsked();
+    void remoteLockKeepsEditorsShut();
     void unitKeysArePassedOn();
     void editorsAreSwitched();
     void deletedInItsEditor_data();
@@ -457,6 +458,17 @@ void TestLineEdits::numpadIsAsked()
         }
         QCOMPARE(m_field->text(), accepted ? u"4 321"_s : u"1 234"_s);
         QCOMPARE(hex.value(), accepted ? 0x4321U : 0x1234U);
+    }
+}
+
+void TestLineEdits::remoteLockKeepsEditorsShut()
+{
+    for (const bool isNumpad : {false, true}) {
+        choose(*m_field, isNumpad);
+        QvexDialog::setRemoteLock(true);
+        tap(m_field.get()); // would not return from a numpad
+        QvexDialog::setRemoteLock(false);
+        QVERIFY(!keys().isVisible());
     }
 }
 

@@ -114,6 +114,8 @@ private Q_SLOTS:
     void leavingRestores();
     void unitKeysMultiplyExactly_data();
     void unitKeysMultiplyExactly();
+    void unitKeyAloneChangesNothing();
+    void followsTheProgramUntilSomethingIsTyped();
     void opensBesideItsField_data();
     void opensBesideItsField();
     void holdingRepeatsBackspaceOnly();
@@ -322,6 +324,34 @@ void TestNumpad::unitKeysMultiplyExactly()
         QCOMPARE(bench.numpad.text(), result.isEmpty() ? u"2.000000"_s : result);
         bench.numpad.reject();
     }
+}
+
+void TestNumpad::unitKeyAloneChangesNothing()
+{
+    Bench bench;
+    bench.setField(u"0 100000"_s, 1, u"77.5"_s);
+    bench.numpad.setUnitKeys(u"V"_s, {QString(), u"k"_s});
+    bench.numpad.open();
+    tap(bench.key(u"NumpadUnit_k"_s));
+    QVERIFY(bench.numpad.isVisible());
+    QCOMPARE(bench.numpad.value(), 77.5);
+    QTest::keyClicks(QApplication::focusWidget(), u"77.5k"_s);
+    QVERIFY(!bench.numpad.isVisible());
+    QCOMPARE(bench.numpad.value(), 77'500.0);
+}
+
+void TestNumpad::followsTheProgramUntilSomethingIsTyped()
+{
+    Bench bench;
+    bench.setField(u"0 100"_s, 0, u"5"_s);
+    bench.numpad.open();
+    bench.numpad.setValue(6);
+    QCOMPARE(bench.entry()->text(), u"6"_s);
+    bench.tapKeys(u"7"_s);
+    bench.numpad.setValue(8);
+    QCOMPARE(bench.entry()->text(), u"7"_s);
+    tap(bench.key(u"NumpadOk"_s));
+    QCOMPARE(bench.numpad.value(), 7.0);
 }
 
 void TestNumpad::opensBesideItsField_data()
