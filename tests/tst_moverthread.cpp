@@ -268,6 +268,10 @@ void TestMoverThread::nextListMayBeStartedFromComplete()
             mover.uploadFiles({sources.at(results.size())}, u"/Internal"_s, false);
         }
     });
+    // The mover's thread is held up there, so that the next list begins before it has ended.
+    connect(
+        &mover, &QvexFileMoverThread::complete, &mover, [] { QThread::msleep(50); },
+        Qt::DirectConnection);
     mover.uploadFiles({sources.first()}, u"/Internal"_s, false);
     QTRY_COMPARE(results, QVector<int>({Done, Done, Done}));
     for (const QString &source : sources) {
