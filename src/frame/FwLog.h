@@ -16,7 +16,7 @@
  * from where the writer takes it. When the writer can't keep up, the oldest messages of the ring
  * are dropped; how many is written as a line of its own.
  *
- * The ring lies in a file beside the log ("NAME.journal") that is mapped into memory. What the
+ * The ring lies in a file beside the log ("NAME.log.journal") that is mapped into memory. What the
  * process has copied there stays when it crashes or is killed: the next start() carries it over to
  * the log file, with a line that says so. This was chosen over a crash handler because SIGKILL and
  * the kernel's out-of-memory killer leave no time for one, and because a handler would have to work
