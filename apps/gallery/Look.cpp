@@ -10,7 +10,8 @@ const QString Look::plateSheet =
     "QPushButton:focus { border: 2px solid #f5b21a; }"_s;
 
 const QString Look::switchSheet =
-    u"QPushButton { background: white; border: 1px solid #6b7f92; border-radius: 4px; "
+    u"QPushButton { background: white; color: black; border: 1px solid #6b7f92; border-radius: "
+    u"4px; "
     "padding: 0 10px; } QPushButton:checked { background: #2b4257; color: white; }"
     "QPushButton:focus { border: 2px solid #1f66a8; }"_s;
 

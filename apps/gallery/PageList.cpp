@@ -8,6 +8,7 @@
 #include "pages/DoubleClickPage.h"
 #include "pages/FaderPage.h"
 #include "pages/HelpDialogPage.h"
+#include "pages/LogPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/NumberFieldsPage.h"
 #include "pages/NumpadPage.h"
@@ -15,6 +16,7 @@
 #include "pages/PropertiesPage.h"
 #include "pages/SlidingStackPage.h"
 #include "pages/StylesPage.h"
+#include "pages/ThemesPage.h"
 #include "pages/TripleActionPage.h"
 
 namespace {
@@ -34,5 +36,5 @@ PageList makePages()
     return make<PropertiesPage, DialogPage, MessageBoxPage, HelpDialogPage, ButtonTabsPage,
                 NumpadPage, NumberFieldsPage, DirectionKeysPage, PasswordPage, TripleActionPage,
                 DelayClickPage, DoubleClickPage, FaderPage, SlidingStackPage, StylesPage,
-                ArtworkPage>();
+                ThemesPage, LogPage, ArtworkPage>();
 }

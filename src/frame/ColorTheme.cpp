@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +28,7 @@ constexpr std::array table {
     Entry {"base"_L1, 0xff15181b, 0xffffffff},
     Entry {"alternateBase"_L1, 0xff1c2024, 0xfff6f8fa},
     Entry {"text"_L1, 0xffeef1f4, 0xff101820},
-    Entry {"button"_L1, 0xff343c45, 0xffe3e8ed},
+    Entry {"button"_L1, 0xff292f36, 0xffe3e8ed},
     Entry {"buttonText"_L1, 0xfff2f5f7, 0xff101820},
     Entry {"highlight"_L1, 0xff4a9be0, 0xff1f66a8},
     Entry {"highlightedText"_L1, 0xff06121c, 0xffffffff},
@@ -35,7 +36,7 @@ constexpr std::array table {
     Entry {"panelText"_L1, 0xfff2f5f7, 0xff101820},
     Entry {"toolTip"_L1, 0xff3a434c, 0xfffff8d6},
     Entry {"toolTipText"_L1, 0xfff2f5f7, 0xff101820},
-    Entry {"disabledText"_L1, 0xffa3adb7, 0xff59636d},
+    Entry {"disabledText"_L1, 0xffadb7c1, 0xff59636d},
     Entry {"link"_L1, 0xff7cc0ff, 0xff0b5ca8},
     Entry {"accent"_L1, 0xfff5b21a, 0xffa15c00},
     Entry {"border"_L1, 0xff8795a3, 0xff6b7783},
@@ -87,10 +88,37 @@ bool setColor(QVector<QColor> &colors, const QString &entry)
     return true;
 }
 
-ColorTheme &applied()
+std::optional<ColorTheme> &applied()
 {
-    static ColorTheme theme;
+    static std::optional<ColorTheme> theme;
     return theme;
+}
+
+/// One that hears of a change may delete another.
+template<typename Action>
+void forWidgets(Action &&action)
+{
+    const QWidgetList all = QApplication::allWidgets();
+    const QVector<QPointer<QWidget>> widgets(all.begin(), all.end());
+    for (const QPointer<QWidget> &widget : widgets) {
+        if (widget) {
+            action(*widget);
+        }
+    }
+}
+
+/// A style sheet has its "palette(...)" resolved once.
+void resolveAgain()
+{
+    const auto usesPalette = [](const QString &sheet) { return sheet.contains("palette("_L1); };
+    if (usesPalette(qApp->styleSheet())) {
+        qApp->setStyleSheet(qApp->styleSheet());
+    }
+    forWidgets([&usesPalette](QWidget &widget) {
+        if (usesPalette(widget.styleSheet())) {
+            widget.setStyleSheet(widget.styleSheet());
+        }
+    });
 }
 
 /// Bevels, which the style makes of the ground of a button.
@@ -103,18 +131,10 @@ void setBevels(QPalette &palette, const QColor &button)
     palette.setColor(QPalette::Shadow, button.darker(300));
 }
 
-/// To all widgets that @p pass; one that hears of it may delete another.
-template<typename Predicate>
-void tellWidgets(QEvent::Type what, Predicate &&passes)
+void tell(QWidget &widget, QEvent::Type what)
 {
-    const QWidgetList all = QApplication::allWidgets();
-    const QVector<QPointer<QWidget>> widgets(all.begin(), all.end());
-    for (const QPointer<QWidget> &widget : widgets) {
-        if (widget && passes(*widget)) {
-            QEvent event(what);
-            QCoreApplication::sendEvent(widget, &event);
-        }
-    }
+    QEvent event(what);
+    QCoreApplication::sendEvent(&widget, &event);
 }
 
 void setApplicationPalette(const QPalette &palette)
@@ -123,9 +143,12 @@ void setApplicationPalette(const QPalette &palette)
     // They would wait for the event loop, and who reads colours until then has some of each.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::ApplicationPaletteChange);
     // Windows hand the change down to their children, but not to those with a style sheet.
-    tellWidgets(QEvent::ApplicationPaletteChange, [](const QWidget &widget) {
-        return widget.testAttribute(Qt::WA_StyleSheet) && !widget.isWindow();
+    forWidgets([](QWidget &widget) {
+        if (widget.testAttribute(Qt::WA_StyleSheet) && !widget.isWindow()) {
+            tell(widget, QEvent::ApplicationPaletteChange);
+        }
     });
+    resolveAgain();
 }
 
 double luminance(const QColor &color)
@@ -235,7 +258,7 @@ QPalette ColorTheme::palette() const
 void ColorTheme::apply() const
 {
     const QPalette old = QApplication::palette();
-    const bool isNew = *this != applied();
+    const bool isNew = *this != current();
     applied() = *this;
     const QPalette colors = palette();
     if (colors != old) {
@@ -245,16 +268,21 @@ void ColorTheme::apply() const
         QToolTip::setPalette(tip);
         setApplicationPalette(colors);
     } else if (isNew) {
-        tellWidgets(QEvent::PaletteChange, [](QWidget &widget) {
+        forWidgets([](QWidget &widget) {
+            tell(widget, QEvent::PaletteChange);
             widget.update();
-            return true;
         });
     }
 }
 
 const ColorTheme &ColorTheme::current()
 {
-    return applied();
+    static const ColorTheme ofDark = dark();
+    static const ColorTheme ofLight = light();
+    if (applied()) {
+        return *applied();
+    }
+    return QGuiApplication::palette().color(QPalette::Window).lightness() < 128 ? ofDark : ofLight;
 }
 
 double ColorTheme::contrast(const QColor &one, const QColor &other)

@@ -34,6 +34,9 @@
  * each widget gets on every change, of these colours, too. The style has to be one that paints with
  * the palette: "Fusion", which the application sets (QApplication::setStyle()).
  *
+ * Style sheets may name roles of the palette ("palette(highlight)") and follow. Links of a rich
+ * text keep the colour that they had when the text was set.
+ *
  * For the GUI thread only. Logging category: "vex.frame.theme".
  */
 class VEX_EXPORT ColorTheme
@@ -65,7 +68,7 @@ public:
      * before it is seen. Does nothing when it is already. Needs the QApplication.
      */
     void apply() const;
-    /** What was applied last; dark() before. */
+    /** What was applied last; before, that of the two themes which suits the palette. */
     static const ColorTheme &current();
 
     /** The contrast ratio of WCAG 2.1 of two opaque colours, 1 to 21. */

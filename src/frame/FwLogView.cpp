@@ -87,7 +87,9 @@ void FwLogView::Private::makeBar(QLayout *layout)
     for (QComboBox *box : {levels, categories}) {
         // The style's own pop-up has rows that are too low for a finger.
         box->setView(new QListView(box));
-        box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(8);
+        box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         connect(box, &QComboBox::currentIndexChanged, q, [this] { applyFilter(); });
         layout->addWidget(box);
     }
@@ -120,8 +122,7 @@ void FwLogView::Private::makeList()
 
 void FwLogView::Private::updateTexts()
 {
-    const QStringList names {tr("All levels"), tr("Info and above"), tr("Warnings and above"),
-                             tr("Errors")};
+    const QStringList names {tr("All levels"), tr("From info"), tr("From warning"), tr("Errors")};
     for (int i = 0; i < names.size(); ++i) {
         levels->setItemText(i, names.at(i));
     }
@@ -177,7 +178,6 @@ FwLogView::FwLogView(QWidget *parent)
     auto *bar = new QHBoxLayout;
     layout->addLayout(bar);
     d->makeBar(bar);
-    bar->addStretch(1);
     d->makeList();
     layout->addWidget(d->list, 1);
     d->updateTexts();

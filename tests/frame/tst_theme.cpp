@@ -2,6 +2,7 @@
 #include <QElapsedTimer>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QTest>
@@ -89,6 +90,7 @@ private Q_SLOTS:
 
     void textsAreLegible_data();
     void textsAreLegible();
+    void buttonsAreLegibleAsPainted();
     void takesColorsFromAList_data();
     void takesColorsFromAList();
     void widgetsHearOfEveryColor();
@@ -146,7 +148,26 @@ void tst_theme::textsAreLegible()
         }
     }
     const QColor faint = colors.palette().color(QPalette::Disabled, QPalette::WindowText);
-    QVERIFY(ColorTheme::contrast(faint, colors.color(u"windowText")) > 1.8);
+    QVERIFY(ColorTheme::contrast(faint, colors.color(u"windowText")) > 1.7);
+}
+
+/// The style makes a gradient of the button's colour.
+void tst_theme::buttonsAreLegibleAsPainted()
+{
+    for (const ColorTheme &theme : {ColorTheme::dark(), ColorTheme::light()}) {
+        theme.apply();
+        QPushButton button;
+        button.resize(120, 48);
+        for (const bool enabled : {true, false}) {
+            button.setEnabled(enabled);
+            const QImage image = button.grab().toImage();
+            const QColor text = theme.color(enabled ? u"buttonText" : u"disabledText");
+            for (int y = 8; y < 40; ++y) {
+                const double is = ColorTheme::contrast(text, image.pixelColor(20, y));
+                QVERIFY2(is >= 4.5, qPrintable(u"%1 at %2: %3"_s.arg(text.name()).arg(y).arg(is)));
+            }
+        }
+    }
 }
 
 void tst_theme::takesColorsFromAList_data()
@@ -220,11 +241,16 @@ void tst_theme::changesWhatIsOpenAndWhatIsHidden()
     hidden.open();
     hidden.reject();
     FwLogView view(&window);
+    QFrame styled(&window);
+    styled.setStyleSheet(u"background: palette(base)"_s);
+    styled.show();
+    QVERIFY(!isDark(groundOf(&styled)));
     QPushButton *button = open.findChild<QPushButton *>();
     QVERIFY(!isDark(groundOf(button)));
     ColorTheme::dark().apply();
     QVERIFY(isDark(groundOf(button)));
     QVERIFY(isDark(groundOf(&open)));
+    QVERIFY(isDark(groundOf(&styled)));
     open.reject();
     hidden.open();
     const auto keys = hidden.findChildren<QPushButton *>();
@@ -234,6 +260,8 @@ void tst_theme::changesWhatIsOpenAndWhatIsHidden()
             QVERIFY2(isDark(groundOf(key)), qPrintable(key->objectName()));
         }
     }
+    const auto entries = hidden.findChildren<QLineEdit *>();
+    QVERIFY(!entries.isEmpty() && isDark(groundOf(entries.constFirst())));
     hidden.reject();
     view.resize(600, 300);
     view.show();
