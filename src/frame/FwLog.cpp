@@ -145,7 +145,7 @@ bool FwLog::start(const Options &wanted)
         return false;
     }
     const Options options = bounded(wanted);
-    d->slot = std::make_unique<LogSlot>(options.filePath, options.maxFileSize, options.fileCount);
+    d->slot = std::make_unique<LogSlot>(options);
     d->queue.open(d->slot->map(options.ringSize), options.ringSize);
     d->history.begin(options.shownLines);
     d->writer = std::make_unique<LogWriter>(

@@ -36,6 +36,10 @@ public:
         bool standardError = true;
         /// The log file; its directory is made. Empty: no file, and nothing outlives a crash.
         QString filePath;
+        /// Where the journal lies; empty: beside the log. With slow flash memory the kernel may
+        /// hold up who logs while it writes the journal back: a directory in memory that only this
+        /// user can write to ($XDG_RUNTIME_DIR) avoids that, and outlives a crash as well.
+        QString journalDirectory;
         /// Bytes, at which the file is renamed to "NAME.log.1", the one before to "NAME.log.2" and
         /// so on, and a new one begun; 64 KiB or more.
         qint64 maxFileSize = 4 * 1024 * 1024;

@@ -87,8 +87,8 @@ std::span<std::byte> LogJournal::map(int size)
     if (::ftruncate(m_descriptor, 0) != 0 || ::posix_fallocate(m_descriptor, 0, size) != 0) {
         return {};
     }
-    void *memory =
-        ::mmap(nullptr, size_t(size), PROT_READ | PROT_WRITE, MAP_SHARED, m_descriptor, 0);
+    void *memory = ::mmap(nullptr, size_t(size), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_POPULATE,
+                          m_descriptor, 0);
     if (memory != MAP_FAILED) {
         m_memory = {static_cast<std::byte *>(memory), size_t(size)};
     }

@@ -37,11 +37,11 @@ QString remarkOn(const LogRing::Rest &rest, const QString &path)
 
 } // namespace
 
-LogSlot::LogSlot(const QString &path, qint64 maxFileSize, int fileCount)
-    : m_maxFileSize(maxFileSize)
-    , m_fileCount(fileCount)
-    , m_path(path)
+LogSlot::LogSlot(const FwLog::Options &options)
+    : m_options(options)
+    , m_path(options.filePath)
 {
+    const QString path = options.filePath;
     if (path.isEmpty()) {
         return;
     }
@@ -72,13 +72,25 @@ void LogSlot::close()
 
 std::unique_ptr<LogFile> LogSlot::makeFile(const QString &path) const
 {
-    return path.isEmpty() ? nullptr : std::make_unique<LogFile>(path, m_maxFileSize, m_fileCount);
+    return path.isEmpty()
+        ? nullptr
+        : std::make_unique<LogFile>(path, m_options.maxFileSize, m_options.fileCount);
+}
+
+/// One for each path, wherever it is.
+QString LogSlot::journalPath(const QString &path) const
+{
+    if (m_options.journalDirectory.isEmpty()) {
+        return path + u".journal"_s;
+    }
+    const QString name = QFileInfo(path).absoluteFilePath().replace(u'/', u'!');
+    return QDir(m_options.journalDirectory).filePath(name + u".journal"_s);
 }
 
 /// False when there can be no journals here at all.
 bool LogSlot::visit(const QString &path)
 {
-    LogJournal::Lock lock = LogJournal::lock(path + u".journal"_s, !m_journal);
+    LogJournal::Lock lock = LogJournal::lock(journalPath(path), !m_journal);
     if (!lock.journal || !carryOver(*lock.journal, path)) {
         return lock.found != LogJournal::Found::Failed;
     }

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "FwLog.h"
 #include "LogFile.h"
 #include "LogJournal.h"
 
@@ -14,8 +15,8 @@
 class LogSlot
 {
 public:
-    /** @p path may be empty: no file then. */
-    LogSlot(const QString &path, qint64 maxFileSize, int fileCount);
+    /** Without a file path there is no file. */
+    explicit LogSlot(const FwLog::Options &options);
 
     /** The path that this process has: NAME.log, NAME.2.log, ... */
     QString path() const { return m_path; }
@@ -28,11 +29,11 @@ public:
     QStringList remarks() const { return m_remarks; }
 
 private:
+    QString journalPath(const QString &path) const;
     bool visit(const QString &path);
     bool carryOver(const LogJournal &journal, const QString &path);
 
-    const qint64 m_maxFileSize;
-    const int m_fileCount;
+    const FwLog::Options m_options;
     QString m_path;
     std::unique_ptr<LogJournal> m_journal;
     QStringList m_remarks;

@@ -37,6 +37,7 @@ FwLog::Options quietly(const QString &path)
     FwLog::Options options;
     options.standardError = false;
     options.filePath = path;
+    options.journalDirectory = qEnvironmentVariable("LOG_JOURNALS");
     return options;
 }
 
@@ -202,16 +203,21 @@ void tst_log::afterACrashNothingIsMissing_data()
 {
     QTest::addColumn<QString>("end");
     QTest::addColumn<int>("expected");
+    QTest::addColumn<QByteArray>("journals");
     for (const char *end : {"kill", "abort", "exit"}) {
-        QTest::newRow(end) << QString::fromLatin1(end) << childLines;
+        QTest::newRow(end) << QString::fromLatin1(end) << childLines << QByteArray();
     }
-    QTest::newRow("fatal") << u"fatal"_s << childLines + 1;
+    QTest::newRow("fatal") << u"fatal"_s << childLines + 1 << QByteArray();
+    QTest::newRow("journal in memory") << u"kill"_s << childLines << QByteArray("/dev/shm");
 }
 
 void tst_log::afterACrashNothingIsMissing()
 {
     QFETCH(QString, end);
     QFETCH(int, expected);
+    QFETCH(QByteArray, journals);
+    const auto guard = qScopeGuard([] { qunsetenv("LOG_JOURNALS"); });
+    qputenv("LOG_JOURNALS", journals);
     Child process(path(), end);
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitStatus() == QProcess::NormalExit, end == "exit"_L1);
