@@ -104,9 +104,10 @@ Direction SlidingStackedWidget::directionTowards(bool later) const
 QPoint SlidingStackedWidget::offset(t_direction direction) const
 {
     const QSize frame = frameRect().size();
+    const int width = isRightToLeft() ? -frame.width() : frame.width();
     switch (direction) {
     case HorizontalEarlier:
-        return {frame.width(), 0};
+        return {width, 0};
     case VerticalLater:
         return {0, frame.height()};
     case VerticalEarlier:
@@ -115,7 +116,7 @@ QPoint SlidingStackedWidget::offset(t_direction direction) const
     case Automatic:
         break;
     }
-    return {-frame.width(), 0};
+    return {-width, 0};
 }
 
 void SlidingStackedWidget::preparePages(QWidget *page, t_direction direction)

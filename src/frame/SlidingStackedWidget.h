@@ -30,7 +30,10 @@ class VEX_EXPORT SlidingStackedWidget : public QStackedWidget
     Q_PROPERTY(bool locked READ isRemoteLocked WRITE setRemoteLocked)
 
 public:
-    /** Where the pages go; a later page has a greater index. */
+    /**
+     * Where the pages go; a later page has a greater index. Left and right change places in a
+     * layout from right to left.
+     */
     enum t_direction {
         HorizontalEarlier = 0, ///< to the right
         HorizontalLater = 1, ///< to the left

@@ -124,6 +124,8 @@ private Q_SLOTS:
         };
         row("next", 2, {1, 0}, [](S &s) { return s.slideInNext(); });
         row("previous", 0, {-1, 0}, [](S &s) { return s.slideInPrev(); });
+        row("next, from right to left", 2, {-1, 0},
+            [](S &s) { return s.setLayoutDirection(Qt::RightToLeft), s.slideInNext(); });
         row("down", 2, {0, -1}, [](S &s) { return s.setVerticalMode(), s.slideInNext(); });
         row("up", 0, {0, 1}, [](S &s) { return s.setVerticalMode(), s.slideInPrev(); });
         row("in a direction", 3, {-1, 0},
