@@ -78,10 +78,23 @@ TransferStep TransferRun::carryAll()
         if (!step.isDone()) {
             break;
         }
-        step = m_cancelled ? TransferStep::cancelled() : doItem(item);
+        step = goesOn();
+        if (step.isDone()) {
+            step = doItem(item);
+        }
     }
     const TransferStep flushed = m_target->flush();
     return step.isDone() ? flushed : step;
+}
+
+/// Whether there is a point in the next file.
+TransferStep TransferRun::goesOn() const
+{
+    if (m_cancelled) {
+        return TransferStep::cancelled();
+    }
+    const bool needsLink = m_task.kind != Kind::LocalCopy;
+    return needsLink && m_link.isLost() ? m_link.lost() : TransferStep::done();
 }
 
 TransferStep TransferRun::prepare()

@@ -59,6 +59,7 @@ private:
 
     TransferStep carryAll();
     TransferStep prepare();
+    TransferStep goesOn() const;
     TransferStep checkTargetFolder();
     TransferStep checkRoom() const;
     TransferStep doItem(const TransferPlan::Item &item);
