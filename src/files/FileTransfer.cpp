@@ -115,7 +115,12 @@ ConflictDesk::Ask FileTransfer::Private::asker(FileTransfer *q) const
     }
     return [this, q](const FileConflict &conflict, const TransferQuestions::Answer &answer) {
         QMetaObject::invokeMethod(
-            q, [this, conflict, answer] { questions->askConflict(conflict, answer); },
+            q,
+            [this, conflict, answer] {
+                if (!isCancelled) {
+                    questions->askConflict(conflict, answer);
+                }
+            },
             Qt::QueuedConnection);
     };
 }

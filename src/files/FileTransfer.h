@@ -99,8 +99,15 @@ Q_DECLARE_METATYPE(TransferSummary)
  * anything is written the sizes are summed up, and a local target without that much room is
  * refused.
  *
+ * The room of the instrument is not looked after beforehand: the controller has no call for it. A
+ * file that is replaced there is whole at any moment, the old one or the new one, but for the time
+ * of one call it is only there under a name beside.
+ *
  * Methods belong to the thread of the object, signals are emitted there. The work is done on a
- * thread of its own; the destructor cancels and waits for the file at hand to stop.
+ * thread of its own; the destructor cancels and waits for the file at hand to stop. A call that the
+ * controller does not answer can't be cancelled: it ends when the link is given up, which a
+ * VexLinkSupervisor does after ten seconds, or with the ORB's round-trip time-out. So cancel() and
+ * wait for finished() before the destructor where that matters.
  */
 class VEX_EXPORT FileTransfer : public QObject
 {

@@ -75,6 +75,9 @@ TransferStep LocalTarget::makeFolder(const QString &folder, const QString &name)
 {
     const QString path = FileNames::joined(folder, name);
     if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) {
+        if (errno == EEXIST) {
+            return TransferStep::exists();
+        }
         return TransferStep::failed(
             tr("the folder %1 cannot be made: %2").arg(path, qt_error_string(errno)));
     }

@@ -63,8 +63,7 @@ TransferStep RemoteTarget::makeFolder(const QString &folder, const QString &name
     if (madeName != name) {
         if (TransferStep step = m_link->rename(folder, madeName, name); !step.isDone()) {
             m_link->remove(FileNames::joined(folder, madeName));
-            m_folders.remove(folder);
-            return step;
+            return step.endsRun() ? step : existsNow(folder, name, step);
         }
     }
     m_folders[folder].entries.insert(name, {true, 0, {}});
@@ -161,7 +160,7 @@ TransferStep RemoteTarget::commitOver(const QString &folder, const TemporaryName
     if (!step.isDone()) {
         const TransferStep back = m_link->rename(folder, backup, name);
         if (!back.isDone()) {
-            step.reason = tr("%1; the old file is %2 now").arg(step.reason, backup);
+            step.reason = tr("%1; the old file may be called %2 now").arg(step.reason, backup);
         }
         return step;
     }

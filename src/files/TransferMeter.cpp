@@ -42,6 +42,9 @@ TransferProgress TransferMeter::progress() const
 {
     const QMutexLocker locker(&m_mutex);
     TransferProgress progress = m_progress;
+    if (progress.fileCount > 0) {
+        m_rate.add(TransferRate::Clock::now(), progress.bytesDone);
+    }
     progress.bytesPerSecond = m_rate.bytesPerSecond();
     progress.remaining = m_rate.remaining(progress.bytesTotal - progress.bytesDone);
     return progress;

@@ -26,7 +26,7 @@ private:
 
     mutable QMutex m_mutex;
     TransferProgress m_progress;
-    TransferRate m_rate;
+    mutable TransferRate m_rate; ///< sinks by itself while nothing comes
     qint64 m_fileSize = 0; ///< as the total counts it
     qint64 m_fileDone = 0;
 };

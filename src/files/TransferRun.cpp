@@ -66,6 +66,8 @@ TransferSummary TransferRun::run()
         end = carryAll();
     } catch (const std::exception &exception) {
         end = TransferStep::fatal(QString::fromLocal8Bit(exception.what()));
+    } catch (...) {
+        end = TransferStep::fatal(tr("an unknown exception"));
     }
     finish(end);
     return m_summary;
@@ -165,7 +167,11 @@ TransferStep TransferRun::makeFolder(const TransferPlan::Item &item)
     TransferStep step = m_target->find(item.targetFolder, item.name, there);
     if (step.isDone() && !there) {
         step = m_target->makeFolder(item.targetFolder, item.name);
-    } else if (step.isDone() && !there->isFolder) {
+    }
+    if (step.code == TransferStep::Code::Exists) { // by now
+        step = m_target->find(item.targetFolder, item.name, there);
+    }
+    if (step.isDone() && there && !there->isFolder) {
         step = TransferStep::failed(tr("a file at the target has the name of this folder"));
     }
     if (step.code == TransferStep::Code::Failed) {
@@ -221,7 +227,7 @@ void TransferRun::discard(const Place &place, const TemporaryName &temporary, Tr
 {
     const TransferStep discarded = m_target->discard(place.folder, temporary);
     if (!discarded.isDone() && !step.reason.isEmpty()) {
-        step.reason = tr("%1; %2 is left behind and is removed when the file is carried again")
+        step.reason = tr("%1; what may be left as %2 is removed when the file is carried again")
                           .arg(step.reason, FileNames::joined(place.folder, temporary.part()));
     }
 }

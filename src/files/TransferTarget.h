@@ -35,7 +35,7 @@ public:
     /** What is there under a name, if anything. */
     virtual TransferStep find(const QString &folder, const QString &name,
                               std::optional<Entry> &entry) = 0;
-    /** Makes a folder where nothing is yet. */
+    /** Makes a folder; Exists when something has the name. */
     virtual TransferStep makeFolder(const QString &folder, const QString &name) = 0;
     /** Removes what earlier runs have left behind of a file of this name. */
     virtual TransferStep removeLeftovers(const QString &folder, const QString &name) = 0;

@@ -1,24 +1,15 @@
+#include <QElapsedTimer>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <sched.h>
 #include <sys/mount.h>
 #include <unistd.h>
 
-#include "FileTree.h"
-#include "GuardedTest.h"
-#include "Link.h"
 #include "Pattern.h"
-#include "SimulatorProcess.h"
-#include "TcpProxy.h"
-#include "TransferProbe.h"
+#include "TransferTest.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-
-using Kind = FileTransfer::Kind;
-using Outcome = TransferSummary::Outcome;
 
 namespace {
 
@@ -70,23 +61,22 @@ int carryAndExit(const QStringList &arguments)
     }
     ScriptedAnswers answers;
     answers.choice = ConflictChoice::Overwrite;
-    TransferProbe probe(link.proxy(), static_cast<Kind>(arguments[3].toInt()), {arguments[4]},
-                        arguments[5]);
-    probe.transfer.setQuestions(&answers);
-    return probe.run().outcome == Outcome::Done ? 0 : 1;
+    TransferProbe probe(link.proxy(), static_cast<FileTransfer::Kind>(arguments[3].toInt()),
+                        {arguments[4]}, arguments[5], &answers);
+    return probe.run().outcome == TransferSummary::Outcome::Done ? 0 : 1;
 }
 
 } // namespace
 
 /** Whatever fails: the old file or the new one, no rest of a transfer, and the truth is told. */
-class TestTransferFaults : public GuardedTest
+class TestTransferFaults : public TransferTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { m_simulator.start(); }
-    void init();
-    void cleanup();
+    void init() { prepare(); }
+    void cleanup() { check(); }
 
     void lostLink_data();
     void lostLink();
@@ -101,81 +91,12 @@ private Q_SLOTS:
     void killedProcess_data();
     void killedProcess();
     void namesOfAFaultyController();
+    void cancelWhileNothingAnswers();
 
 private:
-    QString source() const
-    {
-        return m_kind == Kind::Download ? u"/Internal/from"_s : localSource();
-    }
-    QString target() const
-    {
-        return m_kind == Kind::Upload ? u"/Internal/to"_s : m_directory->filePath(u"to"_s);
-    }
-    QString localSource() const
-    {
-        return m_kind == Kind::Download ? m_simulator.local(u"/Internal/from"_s)
-                                        : m_directory->filePath(u"from"_s);
-    }
-    QString localTarget() const
-    {
-        return m_kind == Kind::Upload ? m_simulator.local(target()) : target();
-    }
-    TransferProbe &begin(const QStringList &names);
     /// Runs it, and does something once the file of that number is under way.
     TransferSummary runAndInterfere(int fileNumber, const std::function<void()> &interfere);
-
-    TcpProxy m_proxy;
-    SimulatorProcess m_simulator {m_proxy.port()};
-    std::optional<Link> m_link;
-    std::optional<QTemporaryDir> m_directory;
-    std::optional<TransferProbe> m_probe;
-    ScriptedAnswers m_answers;
-    Kind m_kind = Kind::LocalCopy;
 };
-
-void TestTransferFaults::init()
-{
-    GuardedTest::init();
-    m_proxy.behave();
-    m_proxy.setController(m_simulator.port());
-    m_directory.emplace();
-    for (const auto &side : {m_directory->path(), m_simulator.local(u"/Internal"_s)}) {
-        QDir(side + u"/from"_s).removeRecursively();
-        QDir(side + u"/to"_s).removeRecursively();
-        QVERIFY(QDir(side).mkpath(u"from"_s) && QDir(side).mkpath(u"to"_s));
-    }
-    m_answers = {};
-    m_answers.choice = ConflictChoice::Overwrite;
-    m_link.emplace();
-    QVERIFY(m_link->connectTo(m_proxy.port()));
-}
-
-/// What must hold at the end of each of them.
-void TestTransferFaults::cleanup()
-{
-    if (m_probe) {
-        QCOMPARE(m_probe->finishedCount(), 1);
-        QVERIFY(!m_probe->isProgressWrong());
-    }
-    m_probe.reset();
-    m_simulator.order("latency 0");
-    QVERIFY(pollUntil([&] { return m_simulator.openFiles().isEmpty(); }, 5s));
-    const QStringList left = treeOf(localTarget()).keys().filter(u".vex"_s);
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(u' ')));
-    m_link.reset();
-    GuardedTest::cleanup();
-}
-
-TransferProbe &TestTransferFaults::begin(const QStringList &names)
-{
-    QStringList paths;
-    for (const QString &name : names) {
-        paths.append(source() + u'/' + name);
-    }
-    m_probe.emplace(m_link->proxy(), m_kind, paths, target());
-    m_probe->transfer.setQuestions(&m_answers);
-    return *m_probe;
-}
 
 TransferSummary TestTransferFaults::runAndInterfere(int fileNumber,
                                                     const std::function<void()> &interfere)
@@ -482,6 +403,23 @@ void TestTransferFaults::namesOfAFaultyController()
     QCOMPARE(summary.failures.size(), 2);
     QCOMPARE(summary.carried, 1);
     QVERIFY(!QFile::exists(m_directory->filePath(u"outside"_s)));
+}
+
+/// A call can't be interrupted, but giving the link up ends it.
+void TestTransferFaults::cancelWhileNothingAnswers()
+{
+    m_kind = Kind::Download;
+    const QByteArray contents = patternBytes(30 * Chunk);
+    writeTree(localSource(), {{u"a"_s, contents}});
+    begin({u"a"_s});
+    const TransferSummary summary = runAndInterfere(1, [&] {
+        m_proxy.setHole(true);
+        m_probe->transfer.cancel();
+        m_link->proxy()->communicationError();
+    });
+    m_proxy.behave();
+    QCOMPARE(summary.notTried + summary.failures.size(), 1);
+    QVERIFY(treeOf(localTarget()).isEmpty());
 }
 
 int main(int argc, char *argv[])
