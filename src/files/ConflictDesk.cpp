@@ -30,6 +30,26 @@ struct ConflictDesk::Slip
     bool closed = false;
 };
 
+/// The right to answer a question. Who lets it go without an answer can't be waited for.
+class ConflictDesk::Ticket
+{
+public:
+    explicit Ticket(const std::shared_ptr<Slip> &slip)
+        : m_slip(slip)
+        , m_number(slip->begin())
+    {
+    }
+    Ticket(const Ticket &) = delete;
+    Ticket &operator=(const Ticket &) = delete;
+    ~Ticket() { answer(ConflictChoice::Cancel, false); }
+
+    void answer(ConflictChoice choice, bool forAll) { m_slip->answer(m_number, choice, forAll); }
+
+private:
+    const std::shared_ptr<Slip> m_slip;
+    const quint64 m_number;
+};
+
 ConflictDesk::ConflictDesk()
     : m_slip(std::make_shared<Slip>())
 {
@@ -43,10 +63,10 @@ ConflictChoice ConflictDesk::decide(const FileConflict &conflict)
     if (!m_ask) {
         return ConflictChoice::Skip;
     }
-    const quint64 number = m_slip->begin();
-    m_ask(conflict, [slip = m_slip, number](ConflictChoice choice, bool forAll) {
-        slip->answer(number, choice, forAll);
-    });
+    m_ask(conflict,
+          [ticket = std::make_shared<Ticket>(m_slip)](ConflictChoice choice, bool forAll) {
+              ticket->answer(choice, forAll);
+          });
     const QMutexLocker locker(&m_slip->mutex);
     while (!m_slip->choice && !m_slip->closed) {
         m_slip->answered.wait(&m_slip->mutex);

@@ -23,6 +23,7 @@ public:
     void close();
 
 private:
+    class Ticket;
     struct Slip;
 
     const std::shared_ptr<Slip> m_slip; ///< shared with answers that come when this is gone

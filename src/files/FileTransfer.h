@@ -41,7 +41,8 @@ public:
     using Answer = std::function<void(ConflictChoice choice, bool forAll)>;
     /**
      * Called on the transfer's thread, one at a time. @p answer may be called at once or later, on
-     * that thread; after the transfer has ended it does nothing.
+     * that thread; after the transfer has ended it does nothing. When its last copy goes and no
+     * answer was given, that is a Cancel.
      */
     virtual void askConflict(const FileConflict &conflict, Answer answer) = 0;
 };

@@ -52,7 +52,8 @@ TransferStep TransferLink::change(const QString &failure, Call &&call) const
     }
     return result == 0
         ? TransferStep::done()
-        : TransferStep::failed(tr("%1 (the instrument answers %2)").arg(failure).arg(result));
+        : TransferStep::failed(
+            tr("%1 (the instrument answers %2)").arg(failure, QString::number(result)));
 }
 
 TransferStep TransferLink::rename(const QString &folder, const QString &from,

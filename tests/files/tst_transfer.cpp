@@ -1,4 +1,5 @@
 #include <QElapsedTimer>
+#include <QTimer>
 
 #include <sys/stat.h>
 
@@ -31,7 +32,7 @@ private Q_SLOTS:
     void conflicts_data();
     void conflicts();
     void answerForAllIsAskedForOnce();
-    void collidingSourcesAreConflicts();
+    void questionLetGoIsACancel();
     void folderAndFileDoNotReplaceEachOther_data() { addKinds(); }
     void folderAndFileDoNotReplaceEachOther();
     void refusesBeforeAnythingIsWritten_data();
@@ -166,32 +167,30 @@ void TestTransfer::conflicts()
     }
 }
 
+/// Sources of one name are in each other's way too.
 void TestTransfer::answerForAllIsAskedForOnce()
 {
+    m_kind = Kind::Upload;
     m_answers.choice = ConflictChoice::KeepBoth;
     m_answers.forAll = true;
-    m_kind = Kind::Upload;
-    TransferProbe &probe = begin({u"a"_s, u"b"_s});
-    writeTree(localSource(), {{u"a"_s, "a"}, {u"b"_s, "b"}});
-    writeTree(localTarget(), {{u"a"_s, {}}, {u"b"_s, {}}, {u"b (2)"_s, {}}});
+    TransferProbe &probe = begin({u"x/same"_s, u"y/same"_s, u"z/same"_s});
+    writeTree(localSource(), {{u"x/same"_s, "1"}, {u"y/same"_s, "2"}, {u"z/same"_s, "3"}});
 
-    QCOMPARE(probe.run().carried, 2);
+    QCOMPARE(probe.run().carried, 3);
 
     QCOMPARE(m_answers.asked.size(), 1);
-    QCOMPARE(contentsOf(localTarget() + u"/a (2)"_s), "a");
-    QCOMPARE(contentsOf(localTarget() + u"/b (3)"_s), "b");
+    QVERIFY(treeOf(localTarget())
+            == Tree({{u"same"_s, "1"}, {u"same (2)"_s, "2"}, {u"same (3)"_s, "3"}}));
 }
 
-void TestTransfer::collidingSourcesAreConflicts()
+void TestTransfer::questionLetGoIsACancel()
 {
-    m_answers.choice = ConflictChoice::KeepBoth;
-    m_kind = Kind::Upload;
-    TransferProbe &probe = begin({u"x/same"_s, u"y/same"_s});
-    writeTree(localSource(), {{u"x/same"_s, "1"}, {u"y/same"_s, "2"}});
-
-    QCOMPARE(probe.run().carried, 2);
-
-    QVERIFY(treeOf(localTarget()) == Tree({{u"same"_s, "1"}, {u"same (2)"_s, "2"}}));
+    m_kind = Kind::LocalCopy;
+    m_answers.choice.reset();
+    m_answers.onAsked = [&] { QTimer::singleShot(0, [&] { m_answers.unanswered = nullptr; }); };
+    writeTree(localSource(), {{u"a"_s, "new"}});
+    writeTree(localTarget(), {{u"a"_s, "old"}});
+    QCOMPARE(begin({u"a"_s}).run().outcome, Outcome::Cancelled);
 }
 
 void TestTransfer::folderAndFileDoNotReplaceEachOther()

@@ -28,6 +28,8 @@ public:
         }
         if (choice) {
             answer(*choice, forAll);
+        } else {
+            unanswered = answer;
         }
     }
 
@@ -35,6 +37,7 @@ public:
     bool forAll = false;
     std::function<void()> onAsked;
     QVector<FileConflict> asked;
+    Answer unanswered;
 };
 
 /** A transfer, with what must hold for the signals of every one of them. */
