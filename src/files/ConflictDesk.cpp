@@ -1,29 +1,29 @@
 #include "ConflictDesk.h"
 
-#include <QMutex>
-#include <QWaitCondition>
+#include <condition_variable>
+#include <mutex>
 
 /// The question that is open, and its answer.
 struct ConflictDesk::Slip
 {
     quint64 begin()
     {
-        const QMutexLocker locker(&mutex);
+        const std::lock_guard lock(mutex);
         choice.reset();
         return ++question;
     }
     void answer(quint64 number, ConflictChoice chosen, bool isForAll)
     {
-        const QMutexLocker locker(&mutex);
+        const std::lock_guard lock(mutex);
         if (number == question && !choice) {
             choice = chosen;
             forAll = isForAll;
-            answered.wakeAll();
+            answered.notify_all();
         }
     }
 
-    QMutex mutex;
-    QWaitCondition answered;
+    std::mutex mutex;
+    std::condition_variable answered;
     quint64 question = 0;
     std::optional<ConflictChoice> choice;
     bool forAll = false;
@@ -67,10 +67,8 @@ ConflictChoice ConflictDesk::decide(const FileConflict &conflict)
           [ticket = std::make_shared<Ticket>(m_slip)](ConflictChoice choice, bool forAll) {
               ticket->answer(choice, forAll);
           });
-    const QMutexLocker locker(&m_slip->mutex);
-    while (!m_slip->choice && !m_slip->closed) {
-        m_slip->answered.wait(&m_slip->mutex);
-    }
+    std::unique_lock lock(m_slip->mutex);
+    m_slip->answered.wait(lock, [this] { return m_slip->choice || m_slip->closed; });
     if (m_slip->closed) {
         return ConflictChoice::Cancel;
     }
@@ -82,7 +80,7 @@ ConflictChoice ConflictDesk::decide(const FileConflict &conflict)
 
 void ConflictDesk::close()
 {
-    const QMutexLocker locker(&m_slip->mutex);
+    const std::lock_guard lock(m_slip->mutex);
     m_slip->closed = true;
-    m_slip->answered.wakeAll();
+    m_slip->answered.notify_all();
 }

@@ -41,6 +41,15 @@ TransferStep RemoteTarget::listed(const QString &folder, Folder *&listing)
     return TransferStep::done();
 }
 
+/// Keeps the listing of a folder up to date; one that is not known is fetched when it is needed.
+void RemoteTarget::remember(const QString &folder, const QString &name, const Entry &entry)
+{
+    const auto known = m_folders.find(folder);
+    if (known != m_folders.end()) {
+        known->entries.insert(name, entry);
+    }
+}
+
 TransferStep RemoteTarget::find(const QString &folder, const QString &name,
                                 std::optional<Entry> &entry)
 {
@@ -66,7 +75,7 @@ TransferStep RemoteTarget::makeFolder(const QString &folder, const QString &name
             return step.endsRun() ? step : existsNow(folder, name, step);
         }
     }
-    m_folders[folder].entries.insert(name, {true, 0, {}});
+    remember(folder, name, {true, 0, {}});
     m_folders.insert(FileNames::joined(folder, name), {});
     return TransferStep::done();
 }
@@ -116,7 +125,7 @@ TransferStep RemoteTarget::commit(const QString &folder, const TemporaryName &te
     TransferStep step =
         replace ? commitOver(folder, temporary, name) : commitNew(folder, temporary.part(), name);
     if (step.isDone()) {
-        m_folders[folder].entries.insert(name, {false, size, {}});
+        remember(folder, name, {false, size, {}});
     }
     return step;
 }

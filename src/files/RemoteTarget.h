@@ -43,6 +43,7 @@ private:
     };
 
     TransferStep listed(const QString &folder, Folder *&listing);
+    void remember(const QString &folder, const QString &name, const Entry &entry);
     TransferStep fetch(const QString &folder, Folder &listing) const;
     TransferStep commitNew(const QString &folder, const QString &part, const QString &name);
     TransferStep commitOver(const QString &folder, const TemporaryName &temporary,
