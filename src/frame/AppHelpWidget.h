@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+#include "SlidePanel.h"
+
+/** The application's help, over the whole frame. Slides in from the trailing edge. */
+class VEX_EXPORT AppHelpWidget : public SlidePanel
+{
+    Q_OBJECT
+
+public:
+    explicit AppHelpWidget(QWidget *parent);
+    ~AppHelpWidget() override;
+
+    bool isHelpShown() const;
+    /** The panel's own texts in the language of the moment. */
+    void updateText();
+
+public Q_SLOTS:
+    /**
+     * A resource (":/..."), a file (relative to the program's directory) or a URL of one. In place
+     * of a page that can not be shown there is one that says so.
+     */
+    void showHelpWindow(const QString &url);
+    void hideHelpWindow();
+
+Q_SIGNALS:
+    /** Once for each change, at the end of the slide. */
+    void helpPanelShown(bool shown);
+
+protected:
+    QRect openGeometry(const QRect &area) const override;
+    bool event(QEvent *event) override;
+
+private:
+    struct Private;
+    const std::unique_ptr<Private> d;
+};

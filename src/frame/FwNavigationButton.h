@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QAbstractButton>
+
+#include "VexExport.h"
+
+/** Leads to the window before or after, from the lower corner on that side. 50 by 60 pixels. */
+class VEX_EXPORT FwNavigationButton : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    enum ButtonSide { Left, Right };
+    Q_ENUM(ButtonSide)
+
+    explicit FwNavigationButton(ButtonSide side, QWidget *parent = nullptr);
+
+    ButtonSide side() const { return m_side; }
+
+    QSize sizeHint() const override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void updateText();
+
+    const ButtonSide m_side;
+};
