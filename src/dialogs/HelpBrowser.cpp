@@ -1,5 +1,6 @@
 #include "HelpBrowser.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include "FingerScroll.h"
@@ -34,6 +35,16 @@ HelpBrowser::HelpBrowser(QWidget *parent)
 {
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     new FingerScroll(this);
+}
+
+void HelpBrowser::open(const QString &address)
+{
+    if (address.isEmpty() || address.startsWith(":/"_L1)) {
+        setSource(QUrl(u"qrc"_s + (address.isEmpty() ? u":/"_s : address)));
+        return;
+    }
+    const QString directory = QCoreApplication::applicationDirPath();
+    setSource(QUrl::fromUserInput(address, directory, QUrl::AssumeLocalFile));
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)

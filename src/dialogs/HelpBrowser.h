@@ -15,5 +15,8 @@ class HelpBrowser : public QTextBrowser
 public:
     explicit HelpBrowser(QWidget *parent = nullptr);
 
+    /** Shows a resource (":/..."), a file (relative to the program's directory) or a URL of one. */
+    void open(const QString &address);
+
     QVariant loadResource(int type, const QUrl &name) override;
 };

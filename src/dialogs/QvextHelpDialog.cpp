@@ -1,10 +1,8 @@
 #include "QvextHelpDialog.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QUrl>
 
 #include "DialogTheme.h"
 #include "HelpBrowser.h"
@@ -100,12 +98,7 @@ void QvextHelpDialog::setHelpUrl(const QString &url)
     QvexDialog::setHelpUrl(url);
     // There is no help on the help.
     setHelpVisible(false);
-    if (url.isEmpty() || url.startsWith(":/"_L1)) {
-        d->browser->setSource(QUrl(u"qrc"_s + (url.isEmpty() ? u":/"_s : url)));
-        return;
-    }
-    const QString directory = QCoreApplication::applicationDirPath();
-    d->browser->setSource(QUrl::fromUserInput(url, directory, QUrl::AssumeLocalFile));
+    d->browser->open(url);
 }
 
 void QvextHelpDialog::changeEvent(QEvent *event)

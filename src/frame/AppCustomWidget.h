@@ -1,29 +1,27 @@
 #pragma once
 
-#include <memory>
+#include <QPointer>
+#include <QVector>
 
-#include "SlidePanel.h"
+#include "SidePanel.h"
 
 /**
  * A panel over the whole frame for whatever the application puts into it. Slides in from the
  * trailing edge; the handle at its leading one shuts it by a tap or a pull.
  */
-class VEX_EXPORT AppCustomWidget : public SlidePanel
+class VEX_EXPORT AppCustomWidget : public SidePanel
 {
     Q_OBJECT
 
 public:
     /** The object name is "AppCustomWidgetFrame". */
     explicit AppCustomWidget(QWidget *parent);
-    ~AppCustomWidget() override;
 
     /**
      * Re-parents @p widget into the panel, above those that are there. It fills the panel beside
      * the handle; one with a maximum size is centred there. @return false for none.
      */
     bool registerWidget(QWidget *widget);
-    bool isPanelShown() const;
-    void updateText();
 
 public Q_SLOTS:
     void showPanel();
@@ -34,10 +32,11 @@ Q_SIGNALS:
     void customPanelShown(bool shown);
 
 protected:
-    QRect openGeometry(const QRect &area) const override;
+    void resizeEvent(QResizeEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
-    struct Private;
-    const std::unique_ptr<Private> d;
+    void placeContents();
+
+    QVector<QPointer<QWidget>> m_contents;
 };

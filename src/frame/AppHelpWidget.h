@@ -4,10 +4,10 @@
 
 #include <memory>
 
-#include "SlidePanel.h"
+#include "SidePanel.h"
 
 /** The application's help, over the whole frame. Slides in from the trailing edge. */
-class VEX_EXPORT AppHelpWidget : public SlidePanel
+class VEX_EXPORT AppHelpWidget : public SidePanel
 {
     Q_OBJECT
 
@@ -15,7 +15,6 @@ public:
     explicit AppHelpWidget(QWidget *parent);
     ~AppHelpWidget() override;
 
-    bool isHelpShown() const;
     /** The panel's own texts in the language of the moment. */
     void updateText();
 
@@ -32,7 +31,6 @@ Q_SIGNALS:
     void helpPanelShown(bool shown);
 
 protected:
-    QRect openGeometry(const QRect &area) const override;
     bool event(QEvent *event) override;
 
 private:

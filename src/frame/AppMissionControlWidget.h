@@ -46,8 +46,6 @@ public:
     /** The panel's own texts in the language of the moment. */
     void updateText();
 
-    void layoutIn(const QRect &area) override;
-
 public Q_SLOTS:
     void expand();
     void contract();
@@ -75,8 +73,7 @@ Q_SIGNALS:
 
 protected:
     QRect openGeometry(const QRect &area) const override;
-    QPoint gripPosition(qreal fraction) const override;
-    bool event(QEvent *event) override;
+    QPoint gripPosition() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

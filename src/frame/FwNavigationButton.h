@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QAbstractButton>
+#include <QPushButton>
 
 #include "VexExport.h"
 
 /** Leads to the window before or after, from the lower corner on that side. 50 by 60 pixels. */
-class VEX_EXPORT FwNavigationButton : public QAbstractButton
+class VEX_EXPORT FwNavigationButton : public QPushButton
 {
     Q_OBJECT
 
@@ -18,6 +18,7 @@ public:
     ButtonSide side() const { return m_side; }
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <QEasingCurve>
 #include <QFrame>
-#include <QPointer>
 
 #include <memory>
 
 #include "VexExport.h"
 
-class PanelGrip;
-class QMouseEvent;
+class PanelButton;
 
 /**
  * A panel that slides into its parent over an edge and back, by program or by finger.
@@ -49,7 +46,7 @@ public:
     bool isMoving() const;
 
     /** Gives the panel its place in @p area of the parent. */
-    virtual void layoutIn(const QRect &area);
+    void layoutIn(const QRect &area);
 
 public Q_SLOTS:
     /** Into the parent, above its other children. */
@@ -57,27 +54,32 @@ public Q_SLOTS:
     void slideOut();
 
 Q_SIGNALS:
+    void slideStarted(bool isIn);
     /** A slide is over, or a pull that had moved the panel. Emitted once for each. */
     void slideEnded(bool isIn);
 
 protected:
     /** The rectangle of the open panel. */
     virtual QRect openGeometry(const QRect &area) const = 0;
-    /** How far in the panel is, from 0 (shut) to 1, has changed. Puts panel and grip in place. */
-    virtual void place();
+    /** The panel and its grip are to be moved to where fraction() puts them. */
+    virtual void fractionChanged();
+    /** Asks for the open panel's rectangle anew, and moves panel and grip accordingly. */
+    void relocate();
 
-    QRect area() const;
+    /** How far in the panel is, from 0 (shut) to 1. */
     qreal fraction() const;
-    /** Becomes a sibling of the panel. */
-    void setGrip(PanelGrip *grip);
-    PanelGrip *grip() const;
-    /** Where the grip is when the panel is this far in. */
-    virtual QPoint gripPosition(qreal fraction) const;
+    /** What layoutIn() was given; the parent's rectangle before. */
+    QRect area() const;
+
+    /** Belongs to the panel, and is its sibling. */
+    void setGrip(PanelButton *grip);
+    PanelButton *grip() const;
+    /** Where the grip is with the panel where it is; beside its leading side by default. */
+    virtual QPoint gripPosition() const;
+    /** Lets the panel be pulled by @p handle, one of its children. */
+    void addHandle(QWidget *handle);
 
     bool event(QEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -2,7 +2,6 @@
 
 #include <QPlainTextEdit>
 #include <QStringList>
-#include <QVector>
 
 #include "VexExport.h"
 
@@ -17,13 +16,13 @@ class VEX_EXPORT SplashLines : public QPlainTextEdit
 public:
     explicit SplashLines(QWidget *parent = nullptr);
 
-    /** How many of the lines are errors. */
-    int errorCount() const;
-
 public Q_SLOTS:
     void addLine(const QString &line, bool error = false);
     void addLines(const QStringList &lines);
 
 protected:
     void changeEvent(QEvent *event) override;
+
+private:
+    void colourErrors(int first);
 };
