@@ -10,11 +10,15 @@
 #include "pages/HelpDialogPage.h"
 #include "pages/LogPage.h"
 #include "pages/MessageBoxPage.h"
+#include "pages/MiniMissionControlPage.h"
+#include "pages/MissionControlPage.h"
 #include "pages/NumberFieldsPage.h"
 #include "pages/NumpadPage.h"
 #include "pages/PasswordPage.h"
 #include "pages/PropertiesPage.h"
+#include "pages/SidePanelsPage.h"
 #include "pages/SlidingStackPage.h"
+#include "pages/SplashPage.h"
 #include "pages/StylesPage.h"
 #include "pages/ThemesPage.h"
 #include "pages/TripleActionPage.h"
@@ -36,5 +40,6 @@ PageList makePages()
     return make<PropertiesPage, DialogPage, MessageBoxPage, HelpDialogPage, ButtonTabsPage,
                 NumpadPage, NumberFieldsPage, DirectionKeysPage, PasswordPage, TripleActionPage,
                 DelayClickPage, DoubleClickPage, FaderPage, SlidingStackPage, StylesPage,
-                ThemesPage, LogPage, ArtworkPage>();
+                MissionControlPage, MiniMissionControlPage, SidePanelsPage, SplashPage, ThemesPage,
+                LogPage, ArtworkPage>();
 }

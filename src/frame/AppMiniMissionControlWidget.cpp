@@ -210,9 +210,11 @@ void AppMiniMissionControlWidget::Private::makeRoomFor(Drawer *latest)
 
 void AppMiniMissionControlWidget::Private::followVisibility()
 {
+    // Not yet shown is not hidden.
+    const bool isHidden = q->isHidden() && q->testAttribute(Qt::WA_WState_ExplicitShowHide);
     for (Drawer *drawer : std::as_const(drawers)) {
-        drawer->button()->setVisible(!q->isHidden());
-        drawer->setVisible(!q->isHidden() && (!drawer->isOut() || drawer->isMoving()));
+        drawer->button()->setVisible(!isHidden);
+        drawer->setVisible(!isHidden && (!drawer->isOut() || drawer->isMoving()));
     }
 }
 

@@ -3,12 +3,13 @@
 #include <dialogs/DialogTheme.h>
 #include <dialogs/FingerScroll.h>
 
+#include <QApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QProgressBar>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVariantAnimation>
 
 #include "LampSign.h"
@@ -33,7 +34,10 @@ public:
     using QScrollArea::QScrollArea;
 
     QSize sizeHint() const override { return widget()->sizeHint(); }
-    QSize minimumSizeHint() const override { return {widget()->minimumSizeHint().width(), 0}; }
+    QSize minimumSizeHint() const override
+    {
+        return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), 0};
+    }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -70,10 +74,11 @@ struct AppMissionControlWidget::Private
     PanelButton *addButton(const QString &name, const QString &icon);
 
     int widthIn(const QRect &area) const;
+    int heightFor(int panelWidth) const;
     void showIcon();
     void showDetails();
     void liftTo(int height);
-    bool isBeside(QPoint place) const;
+    bool isBeside(const QWidget *touched) const;
 
     AppMissionControlWidget *const q;
     QLabel *icon = nullptr;
@@ -188,6 +193,7 @@ void AppMissionControlWidget::Private::makeGrid(QBoxLayout *column)
     gridArea->setObjectName(u"McGridArea"_s);
     gridArea->setFrameShape(QFrame::NoFrame);
     gridArea->setWidgetResizable(true);
+    gridArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     gridArea->setWidget(gridHost);
     gridArea->hide();
     new FingerScroll(gridArea);
@@ -237,6 +243,14 @@ int AppMissionControlWidget::Private::widthIn(const QRect &area) const
     return std::min(std::max(wanted, q->layout()->minimumSize().width()), area.width());
 }
 
+int AppMissionControlWidget::Private::heightFor(int panelWidth) const
+{
+    const QLayout *layout = q->layout();
+    // Without a text, nothing in it wraps.
+    return layout->hasHeightForWidth() ? layout->heightForWidth(panelWidth)
+                                       : layout->sizeHint().height();
+}
+
 void AppMissionControlWidget::Private::showIcon()
 {
     const QPixmap picture = QIcon(iconPath).pixmap(DialogTheme::headerIcon);
@@ -266,9 +280,13 @@ void AppMissionControlWidget::Private::liftTo(int height)
     lift.start();
 }
 
-bool AppMissionControlWidget::Private::isBeside(QPoint place) const
+/// Whether @p touched is the parent, or a disabled part of it, which takes no touch itself.
+bool AppMissionControlWidget::Private::isBeside(const QWidget *touched) const
 {
-    return !q->geometry().contains(place) && !q->grip()->geometry().contains(place);
+    const QWidget *parent = q->parentWidget();
+    return touched == parent
+        || (touched && !touched->isEnabled() && parent->isAncestorOf(touched)
+            && !q->isAncestorOf(touched));
 }
 
 AppMissionControlWidget::AppMissionControlWidget(QWidget *parent)
@@ -284,7 +302,13 @@ AppMissionControlWidget::AppMissionControlWidget(QWidget *parent)
     auto *handle = new PanelButton(parent);
     handle->setObjectName(u"McGrip"_s);
     setGrip(handle);
-    connect(this, &SlidePanel::slideStarted, this, &AppMissionControlWidget::updateText);
+    connect(this, &SlidePanel::slideStarted, this, [this](bool isIn) {
+        updateText();
+        qApp->removeEventFilter(this);
+        if (isIn) {
+            qApp->installEventFilter(this);
+        }
+    });
     connect(this, &SlidePanel::slideEnded, this, [this](bool isIn) {
         if (isIn) {
             Q_EMIT expanded();
@@ -292,7 +316,6 @@ AppMissionControlWidget::AppMissionControlWidget(QWidget *parent)
             Q_EMIT contracted();
         }
     });
-    parent->installEventFilter(this);
     updateText();
     layoutIn(parent->rect());
 }
@@ -445,7 +468,7 @@ QRect AppMissionControlWidget::openGeometry(const QRect &area) const
     const int bottom = parentWidget()->height();
     const int lift = d->lift.endValue().toInt();
     const int room = bottom - area.top() - grip()->height() - lift;
-    const int height = std::max(std::min(layout()->heightForWidth(width), room), 0);
+    const int height = std::max(std::min(d->heightFor(width), room), 0);
     const int left = area.left() + (area.width() - width) / 2;
     return {left, bottom - height - d->lift.currentValue().toInt(), width, height};
 }
@@ -460,11 +483,11 @@ QPoint AppMissionControlWidget::gripPosition() const
     return {riding.x(), rest + qRound((open - rest) * fraction())};
 }
 
-/// What is disabled lets touches through to the parent.
+/// Disabled buttons keep touches from the parent, hence all of the application's are looked at.
 bool AppMissionControlWidget::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress && isExpanded() && !isMoving()
-        && d->isBeside(static_cast<QMouseEvent *>(event)->position().toPoint())) {
+        && d->isBeside(qobject_cast<QWidget *>(watched))) {
         contract();
     }
     return SlidePanel::eventFilter(watched, event);

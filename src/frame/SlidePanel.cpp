@@ -395,9 +395,12 @@ void SlidePanel::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     painter.fillRect(event->rect(), palette().color(QPalette::Active, QPalette::Window));
-    QRect border(0, 0, width(), Border);
+    const QColor line = DialogTheme::outline(palette());
+    QRect leading(0, 0, width(), Border);
     if (d->side == Side::Trailing) {
-        border = QRect(d->isMirrored() ? width() - Border : 0, 0, Border, height());
+        leading = QRect(d->isMirrored() ? width() - Border : 0, 0, Border, height());
     }
-    painter.fillRect(border, DialogTheme::outline(palette()));
+    painter.fillRect(leading, line);
+    painter.setPen(line);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
