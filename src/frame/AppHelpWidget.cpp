@@ -39,7 +39,8 @@ void AppHelpWidget::Private::make(AppHelpWidget *panel)
     content->setObjectName(u"HelpContent"_s);
     auto *column = new QVBoxLayout(content);
     column->setSpacing(DialogTheme::spacing);
-    column->setContentsMargins(0, DialogTheme::spacing, DialogTheme::spacing, DialogTheme::spacing);
+    const int margin = DialogTheme::spacing;
+    column->setContentsMargins(margin, margin, margin, margin);
     row = new QHBoxLayout;
     row->setSpacing(DialogTheme::spacing);
     column->addLayout(row);

@@ -109,9 +109,10 @@ void Drawer::resizeEvent(QResizeEvent *event)
 {
     SlidePanel::resizeEvent(event);
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
-    // Beside the border that the panel has at its leading side.
-    m_contents->setGeometry(
-        rect().adjusted(isMirrored ? 0 : Border, 0, isMirrored ? -Border : 0, 0));
+    // Inside the panel's border, which is wider at its leading side.
+    const int left = isMirrored ? 1 : Border;
+    const int right = isMirrored ? Border : 1;
+    m_contents->setGeometry(rect().adjusted(left, 1, -right, -1));
 }
 
 } // namespace

@@ -81,8 +81,12 @@ SlidePanel::Private::Private(SlidePanel *panel, Side panelSide)
     , side(panelSide)
 {
     animation.setEasingCurve(QEasingCurve::OutQuad);
-    connect(&animation, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &value) { setFraction(value.toReal()); });
+    connect(&animation, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) {
+        // While a slide is prepared, the end of the last one is told anew.
+        if (animation.state() == QAbstractAnimation::Running) {
+            setFraction(value.toReal());
+        }
+    });
     connect(&animation, &QAbstractAnimation::finished, this, &Private::end);
 }
 

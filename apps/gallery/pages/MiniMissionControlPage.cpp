@@ -19,8 +19,7 @@ MiniMissionControlPage::MiniMissionControlPage()
 QWidget *MiniMissionControlPage::recipe(QWidget *parent)
 {
     auto *frame = new QFrame(parent);
-    frame->setFrameShape(QFrame::StyledPanel);
-    frame->setFixedSize(640, 280);
+    frame->setFixedSize(624, 280);
     m_panels = new AppMiniMissionControlWidget(frame);
     m_marker = Look::target(tr("Set marker A"), frame);
     m_laser = Look::target(tr("Switch off"), frame);
@@ -29,13 +28,13 @@ QWidget *MiniMissionControlPage::recipe(QWidget *parent)
     m_panels->setExpandButtonText(m_marker, tr("Marker"));
     m_panels->setExpandButtonText(m_laser, tr("Laser"));
     m_panels->setExpandButtonIcon(m_laser, u":/images/warning.png"_s);
-    watch(u"marker shown"_s, [this] { return m_panels->isPanelShown(m_marker); });
-    watch(u"laser shown"_s, [this] { return m_panels->isPanelShown(m_laser); });
     return frame;
 }
 
 QWidget *MiniMissionControlPage::controls(QWidget *parent)
 {
+    watch(u"marker shown"_s, [this] { return m_panels->isPanelShown(m_marker); });
+    watch(u"laser shown"_s, [this] { return m_panels->isPanelShown(m_laser); });
     auto *controls = new Controls(parent);
     controls->addButton(tr("Marker"), [this] { m_panels->showPanel(m_marker); });
     controls->addButton(tr("Laser alone"), [this] { m_panels->showPanel(m_laser, true); });

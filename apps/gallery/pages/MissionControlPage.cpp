@@ -17,8 +17,7 @@ MissionControlPage::MissionControlPage()
 QWidget *MissionControlPage::recipe(QWidget *parent)
 {
     auto *frame = new QFrame(parent);
-    frame->setFrameShape(QFrame::StyledPanel);
-    frame->setFixedSize(640, 356);
+    frame->setFixedSize(624, 328);
     m_panel = new AppMissionControlWidget(frame);
     m_panel->setApplicationName(tr("Bit error rate"));
     m_panel->setApplicationPort(u"1/2"_s);

@@ -20,8 +20,7 @@ SidePanelsPage::SidePanelsPage()
 QWidget *SidePanelsPage::recipe(QWidget *parent)
 {
     auto *frame = new QFrame(parent);
-    frame->setFrameShape(QFrame::StyledPanel);
-    frame->setFixedSize(640, 280);
+    frame->setFixedSize(624, 272);
     m_custom = new AppCustomWidget(frame);
     auto *label = new QLabel(tr("Whatever the application puts here"));
     label->setAlignment(Qt::AlignCenter);
@@ -31,13 +30,13 @@ QWidget *SidePanelsPage::recipe(QWidget *parent)
             [this](bool shown) { note(u"customPanelShown"_s, shown); });
     connect(m_help, &AppHelpWidget::helpPanelShown, this,
             [this](bool shown) { note(u"helpPanelShown"_s, shown); });
-    watch(u"custom shown"_s, [this] { return m_custom->isPanelShown(); });
-    watch(u"help shown"_s, [this] { return m_help->isPanelShown(); });
     return frame;
 }
 
 QWidget *SidePanelsPage::controls(QWidget *parent)
 {
+    watch(u"custom shown"_s, [this] { return m_custom->isPanelShown(); });
+    watch(u"help shown"_s, [this] { return m_help->isPanelShown(); });
     auto *controls = new Controls(parent);
     controls->addButton(tr("showPanel()"), [this] { m_custom->showPanel(); });
     controls->addButton(tr("hidePanel()"), [this] { m_custom->hidePanel(); });

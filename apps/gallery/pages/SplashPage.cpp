@@ -14,7 +14,7 @@ SplashPage::SplashPage()
 QWidget *SplashPage::recipe(QWidget *parent)
 {
     m_lines = new SplashLines(parent);
-    m_lines->setFixedSize(640, 240);
+    m_lines->setFixedSize(624, 240);
     m_lines->addLine(tr("Looking for the controller"));
     m_lines->addLines({tr("Controller found at 127.0.0.1"), tr("Reading 142 properties")});
     watch(u"lines"_s, [this] { return m_lines->blockCount(); });
