@@ -24,7 +24,7 @@ constexpr int Border = 2;
 class Drawer : public SlidePanel
 {
 public:
-    Drawer(QWidget *contents, QWidget *parent, std::function<void()> restack);
+    Drawer(QWidget *contents, AppMiniMissionControlWidget *owner, std::function<void()> restack);
 
     const QWidget *contents() const { return m_contents; }
     PanelButton *button() const { return grip(); }
@@ -41,10 +41,13 @@ public:
 
 protected:
     QRect openGeometry(const QRect &area) const override;
+    /// No further than the others: not above a panel that covers them.
+    void bringForward() override { stackUnder(m_owner); }
     void fractionChanged() override { m_restack(); }
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    AppMiniMissionControlWidget *m_owner;
     QWidget *m_contents;
     std::function<void()> m_restack;
     QSize m_size;
@@ -53,15 +56,17 @@ private:
     int m_top = 0;
 };
 
-Drawer::Drawer(QWidget *contents, QWidget *parent, std::function<void()> restack)
-    : SlidePanel(Side::Trailing, parent)
+Drawer::Drawer(QWidget *contents, AppMiniMissionControlWidget *owner, std::function<void()> restack)
+    : SlidePanel(Side::Trailing, owner->parentWidget())
+    , m_owner(owner)
     , m_contents(contents)
     , m_restack(std::move(restack))
 {
     setObjectName(u"MiniMcPanel"_s);
-    auto *button = new PanelButton(parent);
+    auto *button = new PanelButton(owner->parentWidget());
     button->setObjectName(u"MiniMcButton"_s);
     setGrip(button);
+    bringForward();
     m_contents->setParent(this);
     m_contents->show();
 }
@@ -149,7 +154,7 @@ Drawer *AppMiniMissionControlWidget::Private::drawerOf(const QWidget *contents) 
 
 Drawer *AppMiniMissionControlWidget::Private::add(QWidget *contents)
 {
-    auto *drawer = new Drawer(contents, q->parentWidget(), [this] { restack(); });
+    auto *drawer = new Drawer(contents, q, [this] { restack(); });
     drawer->setDuration(duration);
     drawers.append(drawer);
     QObject::connect(drawer, &SlidePanel::slideStarted, q, [this, drawer](bool isIn) {

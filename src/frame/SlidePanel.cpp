@@ -200,7 +200,7 @@ void SlidePanel::Private::comeUp()
 {
     q->relocate();
     q->show();
-    q->raise();
+    q->bringForward();
 }
 
 void SlidePanel::Private::slideTo(bool in)
@@ -313,6 +313,11 @@ void SlidePanel::slideOut()
     if (d->wantedIn || d->isPulled) {
         d->slideTo(false);
     }
+}
+
+void SlidePanel::bringForward()
+{
+    raise();
 }
 
 void SlidePanel::fractionChanged()

@@ -49,7 +49,6 @@ public:
     void layoutIn(const QRect &area);
 
 public Q_SLOTS:
-    /** Into the parent, above its other children. */
     void slideIn();
     void slideOut();
 
@@ -61,6 +60,8 @@ Q_SIGNALS:
 protected:
     /** The rectangle of the open panel. */
     virtual QRect openGeometry(const QRect &area) const = 0;
+    /** The panel comes in: above all other children of the parent, by default. */
+    virtual void bringForward();
     /** The panel and its grip are to be moved to where fraction() puts them. */
     virtual void fractionChanged();
     /** Asks for the open panel's rectangle anew, and moves panel and grip accordingly. */

@@ -404,6 +404,13 @@ void tst_panels::miniPanelsAreOrderedAndMakeRoom()
     frame.mini.showPanel(&lower, true);
     QVERIFY(!frame.mini.isPanelShown(&upper) && frame.mini.isPanelShown(&lower));
 
+    frame.setDuration(0);
+    frame.custom.showPanel();
+    frame.mini.hidePanel(&lower);
+    frame.mini.showPanel(&lower);
+    QVERIFY(frame.custom.isAncestorOf(frame.childAt(lower.mapTo(&frame, QPoint(50, 100)))));
+    frame.custom.hidePanel();
+
     frame.mini.hide();
     QVERIFY(!lower.isVisible() && !frame.miniButtons().first()->isVisible());
     frame.mini.showPanel(&upper);
