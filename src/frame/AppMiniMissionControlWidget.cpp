@@ -66,7 +66,7 @@ Drawer::Drawer(QWidget *contents, AppMiniMissionControlWidget *owner, std::funct
     auto *button = new PanelButton(owner->parentWidget());
     button->setObjectName(u"MiniMcButton"_s);
     setGrip(button);
-    bringForward();
+    stackUnder(owner);
     m_contents->setParent(this);
     m_contents->show();
 }
