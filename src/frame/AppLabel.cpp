@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int Padding = 8;
+constexpr int Padding = 4;
 
 } // namespace
 

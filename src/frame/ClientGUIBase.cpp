@@ -142,14 +142,8 @@ void ClientGUIBase::registerApplicationWindow(QWidget *window, const QString &na
         qCWarning(lcFrame, "Only a new widget can be registered as an application window");
         return;
     }
-    Private::Window &added = d->addWindow(window);
-    added.hasOwnName = !name.isEmpty();
-    const qsizetype index = d->windows.size() - 1;
-    d->addLabels(added, added.hasOwnName ? name : defaultName(index));
-    if (d->stack->currentIndex() == index) {
-        added.wrapper->show();
-        added.wrapper->raise();
-    }
+    const int index = int(d->windows.size());
+    d->addWindow(window, name.isEmpty() ? defaultName(index) : name, !name.isEmpty());
     if (index == 1) {
         d->back->setEnabled(true);
         d->next->setEnabled(true);

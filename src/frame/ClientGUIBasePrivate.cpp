@@ -101,11 +101,10 @@ void ClientGUIBase::Private::makeSplash()
     splash->hide();
 }
 
-ClientGUIBase::Private::Window &ClientGUIBase::Private::addWindow(QWidget *content)
+void ClientGUIBase::Private::addWindow(QWidget *content, const QString &text, bool hasOwnName)
 {
     auto *wrapper = new QFrame;
     wrapper->setObjectName(u"FwCentralWidget"_s);
-    wrapper->setFixedSize(q->size());
     auto *ground = new QFrame(wrapper);
     ground->setObjectName(u"AppBackWidget"_s);
     ground->setStyleSheet(
@@ -113,28 +112,28 @@ ClientGUIBase::Private::Window &ClientGUIBase::Private::addWindow(QWidget *conte
             .arg(color.green())
             .arg(color.blue()));
     content->setParent(wrapper);
-    windows.append({wrapper, ground, content, nullptr, nullptr, false});
-    stack->addWidget(wrapper);
-    placeWindows();
     content->show();
-    return windows.last();
+
+    const int index = int(windows.size());
+    windows.append({wrapper, ground, content, makeWindowLabel(index, u"appWindLabel"_s, {}),
+                    makeWindowLabel(index, u"curWindLabel"_s, u" text-decoration: underline;"_s),
+                    hasOwnName});
+    setLabelText(windows.last(), text);
+    placeWindows();
+    // The first one becomes current with this, so everything has to be there.
+    stack->addWidget(wrapper);
 }
 
-void ClientGUIBase::Private::addLabels(Window &window, const QString &text)
+AppLabel *ClientGUIBase::Private::makeWindowLabel(int index, const QString &objectName,
+                                                  const QString &decoration) const
 {
-    const int index = int(windows.size()) - 1;
-    window.label = makeLabel(index, u"appWindLabel"_s, labelRow);
-    setLabelStyle(window.label,
-                  u"QLabel#appWindLabel { color:white; font-size: %1px; font-weight: bold; }"_s);
-    window.currentLabel = makeLabel(index, u"curWindLabel"_s, labelRow);
-    setLabelStyle(window.currentLabel,
-                  u"QLabel#curWindLabel { color:white; text-decoration: underline;"
-                  " font-size: %1px; font-weight: bold; }"_s);
-    for (AppLabel *label : {window.label, window.currentLabel}) {
-        rowLayout->addWidget(label);
-        connect(label, &AppLabel::labelClicked, q, &ClientGUIBase::on_labelClicked);
-    }
-    setLabelText(window, text);
+    AppLabel *label = makeLabel(index, objectName, labelRow);
+    setLabelStyle(label,
+                  u"QLabel#"_s + objectName + u" { color:white;"_s + decoration
+                      + u" font-size: %1px; font-weight: bold; }"_s);
+    rowLayout->addWidget(label);
+    connect(label, &AppLabel::labelClicked, q, &ClientGUIBase::on_labelClicked);
+    return label;
 }
 
 AppLabel *ClientGUIBase::Private::makeLabel(int index, const QString &objectName,

@@ -41,9 +41,10 @@ struct ClientGUIBase::Private
     void makeApplicationLabels();
     void makeSplash();
 
-    Window &addWindow(QWidget *content);
-    void addLabels(Window &window, const QString &text);
-    AppLabel *makeLabel(int index, const QString &name, QWidget *parent) const;
+    void addWindow(QWidget *content, const QString &text, bool hasOwnName);
+    AppLabel *makeWindowLabel(int index, const QString &objectName,
+                              const QString &decoration) const;
+    AppLabel *makeLabel(int index, const QString &objectName, QWidget *parent) const;
     void setLabelText(const Window &window, const QString &text) const;
     int indexOf(const QWidget *content) const;
     void markLabel(int current);
