@@ -44,14 +44,11 @@ ClientGUIBase::ClientGUIBase(QVector<QString> &args)
     d->custom = new AppCustomWidget(this);
     connect(d->custom, &AppCustomWidget::customPanelShown, this, &ClientGUIBase::customPanelShown);
     d->mini = new AppMiniMissionControlWidget(this);
-    d->mini->setObjectName(u"FwMiniMissionControl"_s);
     d->help = new AppHelpWidget(this);
-    d->help->setObjectName(u"FwHelpPanel"_s);
     d->help->hide();
     connect(d->help, &AppHelpWidget::helpPanelShown, this, &ClientGUIBase::helpPanelShown);
     d->makeApplicationLabels();
     d->missionControl = new AppMissionControlWidget(this);
-    d->missionControl->setObjectName(u"FwMissionControl"_s);
     connectMissionControl();
     d->makeSplash();
     d->popup = QvexPasswordPopup::instance();

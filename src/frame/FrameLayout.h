@@ -14,8 +14,8 @@ inline constexpr int windowTop = 50;
 /// What windows leave free at the bottom, and what is seen of the labels.
 inline constexpr int barHeight = 36;
 inline constexpr QSize navigationButton {50, 60};
-/// Between the window labels and the application's: the handle of the mission control.
-inline constexpr int gripWidth = 96;
+/// Between the window labels and the application's: the grip of the mission control, and a little.
+inline constexpr int gripWidth = 124;
 inline constexpr int narrowestLabel = 96;
 
 /// The application's window number @p index (of the first three) in a frame of that size.
