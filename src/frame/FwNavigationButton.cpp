@@ -34,5 +34,7 @@ void FwNavigationButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QColor ink = PanelLook::drawPlate(painter, *this);
-    PanelLook::drawChevron(painter, rect(), m_side == Left ? Qt::LeftArrow : Qt::RightArrow, ink);
+    // In a right-to-left layout the frame has changed their places.
+    const bool pointsLeft = (m_side == Left) == (layoutDirection() == Qt::LeftToRight);
+    PanelLook::drawChevron(painter, rect(), pointsLeft ? Qt::LeftArrow : Qt::RightArrow, ink);
 }
