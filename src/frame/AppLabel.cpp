@@ -1,13 +1,14 @@
 #include "AppLabel.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 
-#include "ElidedLabelStyle.h"
 #include "FrameLayout.h"
 
 namespace {
 
 constexpr int Padding = 4;
+constexpr QColor PressedGround(255, 255, 255, 60);
 
 } // namespace
 
@@ -15,9 +16,6 @@ AppLabel::AppLabel(int index, QWidget *parent)
     : QLabel(parent)
     , m_index(index)
 {
-    auto *cutting = new ElidedLabelStyle;
-    cutting->setParent(this);
-    setStyle(cutting);
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignCenter);
     setContentsMargins(Padding, FrameLayout::touchTarget - FrameLayout::barHeight, Padding, 0);
@@ -36,14 +34,14 @@ QSize AppLabel::minimumSizeHint() const
 
 void AppLabel::mousePressEvent(QMouseEvent *event)
 {
-    m_isPressed = event->button() == Qt::LeftButton;
+    setPressed(event->button() == Qt::LeftButton);
     event->setAccepted(m_isPressed);
 }
 
 void AppLabel::mouseReleaseEvent(QMouseEvent *event)
 {
     const bool isTap = m_isPressed && rect().contains(event->position().toPoint());
-    m_isPressed = false;
+    setPressed(false);
     if (isTap) {
         Q_EMIT labelClicked(m_index);
     }
@@ -57,4 +55,30 @@ void AppLabel::keyPressEvent(QKeyEvent *event)
     } else {
         QLabel::keyPressEvent(event);
     }
+}
+
+/// The finger, or the keyboard's focus, shows on what is seen of the label. The text is drawn here
+/// because under a style sheet no style cuts it.
+void AppLabel::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    const QRect seen = rect().adjusted(1, contentsMargins().top() + 1, -1, -1);
+    if (m_isPressed) {
+        painter.fillRect(seen, PressedGround);
+    }
+    if (hasFocus()) {
+        painter.setPen(QPen(Qt::white, 2));
+        painter.drawRect(seen.adjusted(1, 1, -1, -1));
+    }
+    const QRect place = contentsRect();
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(place, int(alignment()),
+                     fontMetrics().elidedText(text(), Qt::ElideRight, place.width()));
+}
+
+void AppLabel::setPressed(bool isPressed)
+{
+    m_isPressed = isPressed;
+    update();
 }

@@ -31,8 +31,11 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
+    void setPressed(bool isPressed);
+
     const int m_index;
     bool m_isPressed = false;
 };

@@ -261,18 +261,18 @@ void ClientGUIBase::resizeEvent(QResizeEvent *)
     d->styleLabels();
 }
 
-/// The slide-up button is a thin one: what misses it, but not the gap below it, counts.
+/// The slide-up button is a thin one: the gap between it and the windows taps it, too.
 void ClientGUIBase::mousePressEvent(QMouseEvent *event)
 {
-    d->isSlideUpPressed = event->button() == Qt::LeftButton
-        && FrameLayout::slideUpZone(size()).contains(event->position().toPoint());
+    d->isSlideUpPressed =
+        event->button() == Qt::LeftButton && d->isGroundOfSlideUp(event->position().toPoint());
     event->setAccepted(d->isSlideUpPressed);
 }
 
 void ClientGUIBase::mouseReleaseEvent(QMouseEvent *event)
 {
     if (std::exchange(d->isSlideUpPressed, false)
-        && FrameLayout::slideUpZone(size()).contains(event->position().toPoint())) {
+        && d->isGroundOfSlideUp(event->position().toPoint())) {
         d->slideUp->click();
     }
 }

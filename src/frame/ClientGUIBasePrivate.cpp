@@ -4,6 +4,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "FrameLayout.h"
 
 using namespace Qt::StringLiterals;
@@ -208,6 +210,16 @@ void ClientGUIBase::Private::placeWindows()
             place(window.content, FrameLayout::window(q->size(), i));
         }
     }
+}
+
+/// Whether a touch there meets nothing but the ground around the slide-up button.
+bool ClientGUIBase::Private::isGroundOfSlideUp(QPoint position) const
+{
+    const QWidget *touched = q->childAt(position);
+    const bool isGround =
+        std::any_of(windows.cbegin(), windows.cend(),
+                    [touched](const Window &window) { return window.ground == touched; });
+    return isGround && FrameLayout::slideUpZone(q->size()).contains(position);
 }
 
 /// The window labels end, and those of the application begin, at the grip of the mission control.

@@ -51,6 +51,7 @@ struct ClientGUIBase::Private
 
     void layOut();
     void place(QWidget *widget, const QRect &leftToRight) const;
+    bool isGroundOfSlideUp(QPoint position) const;
     void placeWindows();
     void placeLabels();
     void styleLabels() const;
@@ -77,7 +78,7 @@ struct ClientGUIBase::Private
     AppMissionControlWidget *missionControl = nullptr;
     QPointer<QvexPasswordPopup> popup;
     ReportHandler reportHandler;
-    bool isSlideUpPressed = false; ///< a touch below the button, but within its zone
+    bool isSlideUpPressed = false; ///< a touch on the ground below the button
 
     int clientId = -1;
     int serverId = -1;

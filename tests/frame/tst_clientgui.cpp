@@ -350,6 +350,8 @@ private Q_SLOTS:
         finger.press({400, 45});
         finger.moveTo({400, 200});
         finger.lift();
+        frame.showCustomPanel();
+        finger.tap({400, 45});
         QCOMPARE(launch.count(), 1);
     }
 
