@@ -19,7 +19,7 @@ void number(RemoteNodes &nodes, qint32 from)
 } // namespace
 
 QvexRemoteFileSystemAbstract::QvexRemoteFileSystemAbstract()
-    : m_root(FileSystemItem {.isdir = true, .dircount = -1})
+    : m_root(FileSystemItem {.name = {}, .date = {}, .isdir = true, .dircount = -1})
 {
 }
 
@@ -43,6 +43,14 @@ QString QvexRemoteFileSystemAbstract::directoryOf(const QString &path)
 QString QvexRemoteFileSystemAbstract::join(const QString &directory, const QString &name)
 {
     return directory.endsWith(u'/') ? directory + name : directory + u'/' + name;
+}
+
+bool QvexRemoteFileSystemAbstract::hasPath(const RemoteNode *node)
+{
+    while (node->parent && node->nameable) {
+        node = node->parent;
+    }
+    return !node->parent;
 }
 
 QString QvexRemoteFileSystemAbstract::path(const RemoteNode *node) const

@@ -26,7 +26,9 @@ public:
     static QString directoryOf(const QString &path);
     static QString join(const QString &directory, const QString &name);
 
-    /** Empty if the node, or a directory above it, has no name for a path. */
+    /** Whether the node and all directories above it have a name for a path. */
+    static bool hasPath(const RemoteNode *node);
+    /** Empty without hasPath(). */
     QString path(const RemoteNode *node) const;
     /** The first entry of that path, or null. @p path is clean. */
     RemoteNode *find(const QString &path);

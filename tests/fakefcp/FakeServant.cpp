@@ -30,6 +30,21 @@ Sequence *makeSequence(const Answer &answer, Entry &&fillEntry)
     return sequence;
 }
 
+/// Adds @p count files "file0000000.txt" and so on, in the order of their names.
+void addFiles(FileSystemItemCORBASeq &items, CORBA::Long count)
+{
+    const CORBA::ULong before = items.length();
+    items.length(before + CORBA::ULong(count));
+    for (CORBA::Long i = 0; i < count; ++i) {
+        FileSystemItemCORBA &item = items[before + CORBA::ULong(i)];
+        item.name = u"file%1.txt"_s.arg(i, 7, 10, QChar(u'0')).toLatin1().constData();
+        item.date = u"2026-11-21 10:00:%1"_s.arg(i % 60, 2, 10, QChar(u'0')).toLatin1().constData();
+        item.size = i;
+        item.isdir = false;
+        item.dircount = 0;
+    }
+}
+
 void fillModule(const Answer &entry, ModuleInformationCORBA &module)
 {
     module.moduleID = entry.number("moduleID");
@@ -282,6 +297,7 @@ CORBA::Boolean FakeServant::getFileSystemItems(const char *directory, CORBA::Lon
             item.isdir = entry.flag("isdir");
             item.dircount = entry.number("dircount");
         });
+    addFiles(*items.operator->(), answer.number("files"));
     return answer.flag();
 }
 

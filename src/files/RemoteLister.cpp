@@ -1,0 +1,82 @@
+#include "RemoteLister.h"
+
+#include <algorithm>
+
+#include "corba/FcpAppCORBA.h"
+
+RemoteLister::RemoteLister(FcpAppCORBA *controller, Deliver deliver)
+    : m_controller(controller)
+    , m_deliver(std::move(deliver))
+{
+    setObjectName(QStringLiteral("VexRemoteLister"));
+    start();
+}
+
+RemoteLister::~RemoteLister()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ending = true;
+        m_waiting.clear();
+    }
+    m_wake.notify_one();
+    wait();
+}
+
+void RemoteLister::post(Request request)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waiting.push_back(std::move(request));
+    }
+    m_wake.notify_one();
+}
+
+bool RemoteLister::isWaiting(quint64 id)
+{
+    const std::lock_guard lock(m_mutex);
+    return find(id) != m_waiting.end();
+}
+
+void RemoteLister::drop(quint64 id)
+{
+    const std::lock_guard lock(m_mutex);
+    if (const auto found = find(id); found != m_waiting.end()) {
+        m_waiting.erase(found);
+    }
+}
+
+std::deque<RemoteLister::Request>::iterator RemoteLister::find(quint64 id)
+{
+    return std::find_if(m_waiting.begin(), m_waiting.end(),
+                        [id](const Request &request) { return request.id == id; });
+}
+
+std::shared_ptr<ListingDiff> RemoteLister::list(FcpAppCORBA *controller, const Request &request)
+{
+    QVector<FileSystemItem> items;
+    if (!controller->getFileSystemItems(request.path, request.patterns, request.filters, items)) {
+        return {};
+    }
+    return std::make_shared<ListingDiff>(request.known, items);
+}
+
+void RemoteLister::run()
+{
+    Request request;
+    while (next(request)) {
+        m_deliver(request.id, list(m_controller, request));
+    }
+}
+
+bool RemoteLister::next(Request &request)
+{
+    std::unique_lock lock(m_mutex);
+    m_wake.wait(lock, [this] { return m_ending || !m_waiting.empty(); });
+    if (m_ending) {
+        return false;
+    }
+    request = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    return true;
+}
