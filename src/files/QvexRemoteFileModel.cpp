@@ -135,25 +135,25 @@ void QvexRemoteFileModel::cancelThread()
 
 void QvexRemoteFileModel::removeComplete_i(long result, const QString &more, bool final)
 {
-    d->taskReported(more, {}, final);
+    d->taskReported(more, final);
     if (final) {
         Q_EMIT deleteComplete(result, more);
     }
 }
 
-void QvexRemoteFileModel::copyComplete_i(long result, const QString &src, const QString &dst,
+void QvexRemoteFileModel::copyComplete_i(long result, const QString &src, const QString &,
                                          bool final)
 {
-    d->taskReported(src, dst, final);
+    d->taskReported(src, final);
     if (final) {
         Q_EMIT copyComplete(result, src);
     }
 }
 
-void QvexRemoteFileModel::moveComplete_i(long result, const QString &src, const QString &dst,
+void QvexRemoteFileModel::moveComplete_i(long result, const QString &src, const QString &,
                                          bool final)
 {
-    d->taskReported(src, dst, final);
+    d->taskReported(src, final);
     if (final) {
         Q_EMIT moveComplete(result, src);
     }

@@ -36,10 +36,10 @@ qint32 fittingBatch(qint32 batch, qint64 nanoseconds)
 QvexRemoteFileModel::Private::Private(QvexRemoteFileModel *model, FcpAppCORBA *controllerProxy)
     : q(model)
     , controller(controllerProxy)
+    , host(controllerProxy->getHost())
     , batch(FirstBatch)
     , helper(controllerProxy)
 {
-    readHost();
     slices.setInterval(0);
     QObject::connect(&slices, &QTimer::timeout, model, [this] { mergeSlice(); });
 }
@@ -48,7 +48,10 @@ QvexRemoteFileModel::Private::~Private() = default;
 
 void QvexRemoteFileModel::Private::readHost()
 {
-    host = controller->getHost();
+    if (const QString now = controller->getHost(); now != host) {
+        host = now;
+        Q_EMIT q->dataChanged(indexOf(tree.root()), indexOf(tree.root()));
+    }
 }
 
 RemoteNode *QvexRemoteFileModel::Private::nodeOf(const QModelIndex &index)
@@ -372,23 +375,24 @@ long QvexRemoteFileModel::Private::startTask(RemoteHelperThread::Kind kind,
         return Busy;
     }
     taskRuns = true;
+    taskDestination =
+        destination.isEmpty() ? QString() : QvexRemoteFileSystemAbstract::cleanPath(destination);
     helper.setTask(kind, sources, destination);
     helper.start();
     return Done;
 }
 
-void QvexRemoteFileModel::Private::taskReported(const QString &source, const QString &destination,
-                                                bool final)
+void QvexRemoteFileModel::Private::taskReported(const QString &source, bool final)
 {
+    if (!final) {
+        expectEntries(taskDestination);
+    }
     if (!source.isEmpty()) {
         refresh(QvexRemoteFileSystemAbstract::directoryOf(source));
     }
     if (final) {
         taskRuns = false;
-        if (!destination.isEmpty()) {
-            expectEntries(QvexRemoteFileSystemAbstract::cleanPath(destination));
-            refresh(QvexRemoteFileSystemAbstract::cleanPath(destination));
-        }
+        refresh(taskDestination);
     }
 }
 

@@ -51,7 +51,7 @@ struct QvexRemoteFileModel::Private : public RemoteRows
     void followRename(const QString &oldPath, const QString &newPath);
     long startTask(RemoteHelperThread::Kind kind, const QVector<QString> &sources,
                    const QString &destination = {});
-    void taskReported(const QString &source, const QString &destination, bool final);
+    void taskReported(const QString &source, bool final);
     void expectEntries(const QString &path);
 
     void insertRows(RemoteNode *directory, qint32 row, RemoteNodes::iterator first,
@@ -73,6 +73,7 @@ struct QvexRemoteFileModel::Private : public RemoteRows
     QStringList fileTypes;
     bool asynchronous = false;
     bool taskRuns = false;
+    QString taskDestination; ///< clean; empty without one
 
 private:
     RemoteLister::Request request(quint64 id, RemoteNode *node, const QString &path) const;
