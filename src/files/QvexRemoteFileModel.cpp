@@ -60,7 +60,9 @@ QString QvexRemoteFileModel::rootPath() const
 
 QModelIndex QvexRemoteFileModel::fileIndex(const QString &path) const
 {
-    return d->indexOf(d->tree.find(QvexRemoteFileSystemAbstract::cleanPath(path)));
+    // An empty path is that of an entry without one; cleaned it would be the root's.
+    return path.isEmpty() ? QModelIndex()
+                          : d->indexOf(d->tree.find(QvexRemoteFileSystemAbstract::cleanPath(path)));
 }
 
 QString QvexRemoteFileModel::filePath(const QModelIndex &index) const

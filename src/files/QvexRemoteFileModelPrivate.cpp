@@ -44,7 +44,10 @@ QvexRemoteFileModel::Private::Private(QvexRemoteFileModel *model, FcpAppCORBA *c
     QObject::connect(&slices, &QTimer::timeout, model, [this] { mergeSlice(); });
 }
 
-QvexRemoteFileModel::Private::~Private() = default;
+QvexRemoteFileModel::Private::~Private()
+{
+    helper.cancel(); // it may end while the lister is waited for
+}
 
 void QvexRemoteFileModel::Private::readHost()
 {
@@ -143,11 +146,10 @@ void QvexRemoteFileModel::Private::listNow(RemoteNode *node)
 void QvexRemoteFileModel::Private::listOnThread(RemoteNode *node)
 {
     if (!lister) {
-        const auto delivered = [this](quint64 id, const std::shared_ptr<ListingDiff> &diff) {
+        lister = std::make_unique<RemoteLister>(controller, [this] {
             QMetaObject::invokeMethod(
-                q, [this, id, diff] { deliver(id, diff); }, Qt::QueuedConnection);
-        };
-        lister = std::make_unique<RemoteLister>(controller, delivered);
+                q, [this] { deliver(); }, Qt::QueuedConnection);
+        });
     }
     const QString path = tree.path(node);
     const quint64 id = ++lastListing;
@@ -156,19 +158,18 @@ void QvexRemoteFileModel::Private::listOnThread(RemoteNode *node)
     Q_EMIT q->loadingChanged(path, true);
 }
 
-void QvexRemoteFileModel::Private::deliver(quint64 id, const std::shared_ptr<ListingDiff> &diff)
+void QvexRemoteFileModel::Private::deliver()
 {
-    RemoteNode *node = directoryOf(id);
-    if (!node) {
-        return; // it has been dropped meanwhile
+    for (const RemoteLister::Result &result : lister->takeResults()) {
+        RemoteNode *node = directoryOf(result.id);
+        if (node && result.diff) {
+            listings[node].merge = std::make_shared<RemoteMerge>(this, node, result.diff);
+            batch = FirstBatch;
+            slices.start();
+        } else if (node) { // else it has been dropped meanwhile
+            fail(node);
+        }
     }
-    if (!diff) {
-        fail(node);
-        return;
-    }
-    listings[node].merge = std::make_shared<RemoteMerge>(this, node, diff);
-    batch = FirstBatch;
-    slices.start();
 }
 
 RemoteNode *QvexRemoteFileModel::Private::directoryOf(quint64 id) const
@@ -247,8 +248,10 @@ void QvexRemoteFileModel::Private::end(RemoteNode *node,
 {
     const Listing listing = listings.extract(node).mapped();
     if (listing.again) {
-        QMetaObject::invokeMethod(
-            q, [this, path = listing.path] { refresh(path); }, Qt::QueuedConnection);
+        const auto listAgain = [this, index = QPersistentModelIndex(indexOf(node))] {
+            list(index.isValid() ? nodeOf(index) : nullptr);
+        };
+        QMetaObject::invokeMethod(q, listAgain, Qt::QueuedConnection);
     }
     if (listing.threaded) {
         Q_EMIT q->loadingChanged(listing.path, false);
@@ -387,8 +390,8 @@ void QvexRemoteFileModel::Private::taskReported(const QString &source, bool fina
     if (!final) {
         expectEntries(taskDestination);
     }
-    if (!source.isEmpty()) {
-        refresh(QvexRemoteFileSystemAbstract::directoryOf(source));
+    if (const QString path = QvexRemoteFileSystemAbstract::cleanPath(source); !source.isEmpty()) {
+        refresh(QvexRemoteFileSystemAbstract::directoryOf(path));
     }
     if (final) {
         taskRuns = false;

@@ -79,7 +79,7 @@ private:
     RemoteLister::Request request(quint64 id, RemoteNode *node, const QString &path) const;
     void listNow(RemoteNode *node);
     void listOnThread(RemoteNode *node);
-    void deliver(quint64 id, const std::shared_ptr<ListingDiff> &diff);
+    void deliver();
     RemoteNode *directoryOf(quint64 id) const;
     void drop(RemoteNode *node);
     void dropBelow(RemoteNode *directory, qint32 row, qint32 count);

@@ -4,9 +4,9 @@
 
 #include "corba/FcpAppCORBA.h"
 
-RemoteLister::RemoteLister(FcpAppCORBA *controller, Deliver deliver)
+RemoteLister::RemoteLister(FcpAppCORBA *controller, std::function<void()> notify)
     : m_controller(controller)
-    , m_deliver(std::move(deliver))
+    , m_notify(std::move(notify))
 {
     setObjectName(QStringLiteral("VexRemoteLister"));
     start();
@@ -65,8 +65,20 @@ void RemoteLister::run()
 {
     Request request;
     while (next(request)) {
-        m_deliver(request.id, list(m_controller, request));
+        Result result {request.id, list(m_controller, request)};
+        request = {};
+        {
+            const std::lock_guard lock(m_mutex);
+            m_results.push_back(std::move(result));
+        }
+        m_notify();
     }
+}
+
+std::vector<RemoteLister::Result> RemoteLister::takeResults()
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_results, {});
 }
 
 bool RemoteLister::next(Request &request)

@@ -27,17 +27,22 @@ public:
         QDir::Filters filters;
         QVector<FileSystemItem> known; ///< what the diff is to be made against
     };
-    /** Called on the lister's thread; @p diff is null when the listing failed. */
-    using Deliver = std::function<void(quint64 id, const std::shared_ptr<ListingDiff> &diff)>;
+    struct Result
+    {
+        quint64 id = 0;
+        std::shared_ptr<ListingDiff> diff; ///< null when the listing failed
+    };
 
-    RemoteLister(FcpAppCORBA *controller, Deliver deliver);
-    /** Drops what waits, and waits for the call under way. Nothing is delivered afterwards. */
+    /** @p notify is called on the lister's thread when there are results. */
+    RemoteLister(FcpAppCORBA *controller, std::function<void()> notify);
+    /** Drops what waits, and waits for the call under way. Nobody is notified afterwards. */
     ~RemoteLister() override;
 
     void post(Request request);
     /** Whether the controller was not yet asked. */
     bool isWaiting(quint64 id);
     void drop(quint64 id);
+    std::vector<Result> takeResults();
 
     /** Asks the controller. @return null when that failed. */
     static std::shared_ptr<ListingDiff> list(FcpAppCORBA *controller, const Request &request);
@@ -48,9 +53,10 @@ private:
     std::deque<Request>::iterator find(quint64 id);
 
     FcpAppCORBA *const m_controller;
-    const Deliver m_deliver;
+    const std::function<void()> m_notify;
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::deque<Request> m_waiting;
+    std::vector<Result> m_results;
     bool m_ending = false;
 };
