@@ -5,10 +5,7 @@
 #include <QTest>
 #include <QTreeView>
 
-#include <numeric>
-
 #include <files/QvexRemoteFileModel.h>
-#include <files/RemoteHelperThread.h>
 
 #include "FakeController.h"
 #include "GuardedTest.h"
@@ -389,10 +386,10 @@ void TestRemoteModel::operationEndsOnce_data()
     row("nothing") << QByteArray() << QStringList() << -1 << 0L << QString() << 0 << QStringList();
     row("three") << QByteArray() << three << -1 << 0L << QString() << 3
                  << QStringList({u"one"_s, u"three"_s, u"two"_s});
-    row("cancelled during the first") << QByteArray("copyFileDirectory:1:delay:400") << three << 1
+    row("cancelled during the first") << QByteArray("copyFileDirectory:1:delay:800") << three << 1
                                       << -5L << QString() << 1 << QStringList(u"one"_s);
     row("cancelled during the last")
-        << QByteArray("copyFileDirectory:3:delay:400") << three << 3 << 0L << QString() << 3
+        << QByteArray("copyFileDirectory:3:delay:800") << three << 3 << 0L << QString() << 3
         << QStringList({u"one"_s, u"three"_s, u"two"_s});
     row("second fails") << QByteArray("copyFileDirectory:2:error:result") << three << -1 << 5L
                         << u"/Internal/two"_s << 2 << QStringList(u"one"_s);
@@ -435,6 +432,7 @@ void TestRemoteModel::operationEndsOnce()
              ended.first().first().value<long>() == 0);
     QTEST(calls(), "calls");
     QCOMPARE(QDir(m_simulator.local(u"/Internal/empty"_s)).entryList(QDir::Files), copied);
+    QVERIFY(!shown.model.isListed(shown.at(u"/Internal/empty"_s)));
     QCOMPARE(shown.model.hasChildren(shown.at(u"/Internal/empty"_s)), !copied.isEmpty());
     QTest::qWait(1);
     QCOMPARE(ended.size(), 1);
@@ -455,6 +453,7 @@ void TestRemoteModel::secondOperationIsRefused()
     QTRY_COMPARE(moved.size(), 1);
     QVERIFY(deleted.isEmpty());
     QCOMPARE(shown.names(empty), QStringList {u"one"_s});
+    shown.model.cancelThread(); // of nothing
     QCOMPARE(shown.model.deleteFileDirectory({u"/Internal/two"_s}), 0L);
     QTRY_COMPARE(deleted.size(), 1);
     QCOMPARE(shown.names(root), QStringList({u"a"_s, u"empty"_s, u"three"_s}));
