@@ -15,7 +15,7 @@ namespace {
 constexpr auto RetryPause = 250ms;
 
 /// A slice of merging ends when it has taken so long; what comes in between are the views.
-constexpr qint64 SliceNs = 8'000'000;
+constexpr qint64 SliceNs = 5'000'000;
 constexpr qint64 ShortStepNs = SliceNs / 4;
 constexpr qint32 SmallestBatch = 16;
 constexpr qint32 FirstBatch = 256;
