@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QAbstractFileIconProvider>
+
+#include <memory>
+
+class QFileIconProvider;
+
+/**
+ * Icons and types of files by what can be told without looking at them: whether they are folders,
+ * and their names.
+ *
+ * What QFileSystemModel asks for each of its entries, on its own thread, is the type and an icon of
+ * a file; the latter is none. iconOf() is for the GUI thread.
+ */
+class FileKindIcons : public QAbstractFileIconProvider
+{
+public:
+    FileKindIcons();
+    ~FileKindIcons() override;
+
+    QIcon icon(IconType type) const override;
+    QIcon icon(const QFileInfo &info) const override;
+    QString type(const QFileInfo &info) const override;
+
+    /** Null without a QApplication. */
+    QIcon iconOf(IconType type) const;
+
+private:
+    mutable std::unique_ptr<QFileIconProvider> m_icons; ///< made when first asked for
+};
