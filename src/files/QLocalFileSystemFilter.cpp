@@ -1,12 +1,15 @@
 #include "QLocalFileSystemFilter.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QVector>
 
 #include <algorithm>
+#include <climits>
 
 #include "FileHeadCache.h"
 #include "FileKindIcons.h"
@@ -25,7 +28,7 @@ bool isSpecialFolder(const QString &name)
 bool isFreeName(const QString &folder, const QString &name)
 {
     if (name.isEmpty() || name == "."_L1 || name == ".."_L1 || name.contains(u'/')
-        || name.contains(QChar::Null)) {
+        || name.contains(QChar::Null) || QFile::encodeName(name).size() > NAME_MAX) {
         return false;
     }
     const QFileInfo taken(folder + u'/' + name);
@@ -45,6 +48,7 @@ struct QLocalFileSystemFilter::Private
     Qt::CaseSensitivity caseSensitivity() const;
     QString text(const QModelIndex &source) const;
     QIcon icon(const QModelIndex &source) const;
+    qint64 timeOf(const QModelIndex &source);
 
     FileKindIcons icons; ///< outlives the model that uses it
     std::unique_ptr<QFileSystemModel> files;
@@ -55,6 +59,7 @@ struct QLocalFileSystemFilter::Private
     QString appType;
     QString appTech;
     FileHeadCache heads;
+    QHash<const void *, qint64> times; ///< of entries being sorted, by their indexes' ids
     bool showsSpecialFolders = false;
 };
 
@@ -108,14 +113,14 @@ bool QLocalFileSystemFilter::Private::leadsToRoot(const QString &folder) const
 
 QString QLocalFileSystemFilter::Private::text(const QModelIndex &source) const
 {
-    const bool isDir = files->isDir(source);
     switch (source.column()) {
     case QvexFileModel::NameColumn:
         return files->fileName(source);
     case QvexFileModel::SizeColumn:
-        return isDir ? QString() : QvexFileModel::sizeText(files->size(source));
+        return files->isDir(source) ? QString() : QvexFileModel::sizeText(files->size(source));
     case QvexFileModel::TypeColumn:
-        return QvexFileModel::typeText(files->fileName(source), isDir);
+        return QvexFileModel::typeText(files->fileName(source.siblingAtColumn(0)),
+                                       files->isDir(source));
     default:
         return QLocale().toString(files->lastModified(source), QLocale::ShortFormat);
     }
@@ -125,6 +130,18 @@ QIcon QLocalFileSystemFilter::Private::icon(const QModelIndex &source) const
 {
     return icons.iconOf(files->isDir(source) ? QAbstractFileIconProvider::Folder
                                              : QAbstractFileIconProvider::File);
+}
+
+/// In ms. Told by QFileSystemModel they cost as much as a look at the time zone, 17 for each entry.
+qint64 QLocalFileSystemFilter::Private::timeOf(const QModelIndex &source)
+{
+    const auto known = times.constFind(source.internalPointer());
+    if (known != times.cend()) {
+        return *known;
+    }
+    const qint64 time = files->lastModified(source).toMSecsSinceEpoch();
+    times.insert(source.internalPointer(), time);
+    return time;
 }
 
 QLocalFileSystemFilter::QLocalFileSystemFilter(bool readOnly, QObject *parent)
@@ -140,6 +157,12 @@ QLocalFileSystemFilter::QLocalFileSystemFilter(bool readOnly, QObject *parent)
             &QLocalFileSystemFilter::directoryLoaded);
     connect(d->files.get(), &QFileSystemModel::fileRenamed, this,
             &QLocalFileSystemFilter::fileRenamed);
+    // Before this proxy hears of them.
+    const auto forgetTimes = [this] { d->times.clear(); };
+    connect(d->files.get(), &QAbstractItemModel::dataChanged, this, forgetTimes);
+    connect(d->files.get(), &QAbstractItemModel::rowsAboutToBeRemoved, this, forgetTimes);
+    connect(d->files.get(), &QAbstractItemModel::rowsRemoved, this, forgetTimes);
+    connect(d->files.get(), &QAbstractItemModel::modelAboutToBeReset, this, forgetTimes);
     setSourceModel(d->files.get());
     setSortRole(Qt::DisplayRole);
     setSortCaseSensitivity(Qt::CaseSensitive);
@@ -256,7 +279,7 @@ bool QLocalFileSystemFilter::lessThan(const QModelIndex &left, const QModelIndex
     case QvexFileModel::SizeColumn:
         return bytes(left) < bytes(right);
     case QvexFileModel::DateColumn:
-        return d->files->lastModified(left) < d->files->lastModified(right);
+        return d->timeOf(left) < d->timeOf(right);
     default:
         return d->text(left).compare(d->text(right), sortCaseSensitivity()) < 0;
     }

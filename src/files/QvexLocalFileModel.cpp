@@ -83,6 +83,7 @@ void QvexLocalFileModel::Private::rememberListed(const QString &path)
         Q_EMIT q->directoryLoaded(path);
     } else {
         listed.remove(path);
+        leaveVanishedRoot(); // that it is gone is told as if it had been read again
     }
 }
 

@@ -1,5 +1,6 @@
 #include "XmlFileHeader.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QXmlStreamReader>
@@ -17,17 +18,13 @@ namespace {
 
 using Prefix = std::array<char, size_t(XmlFileHeader::LineCount) * XmlFileHeader::LineLength>;
 
-/// Where the lines that count end among the @p size bytes that a file begins with.
-qsizetype endOfLines(const char *begin, qsizetype size)
+QByteArray linesOf(QIODevice &device)
 {
-    const char *const end = begin + size;
-    const char *at = begin;
-    for (int line = 0; line < XmlFileHeader::LineCount && at != end; ++line) {
-        const char *const limit = at + std::min<qsizetype>(XmlFileHeader::LineLength, end - at);
-        const char *const newline = std::find(at, limit, '\n');
-        at = newline == limit ? limit : newline + 1;
+    QByteArray lines;
+    for (int line = 0; line < XmlFileHeader::LineCount; ++line) {
+        lines += device.readLine(XmlFileHeader::LineLength);
     }
-    return at - begin;
+    return lines;
 }
 
 /// @return how many bytes were read, fewer than asked for at the end of the file only; or -1.
@@ -90,10 +87,7 @@ bool XmlFileHeader::getFileInfo(QFile *file, FileData *data)
     if (!info.isFile() || !file->open(QIODevice::ReadOnly)) {
         return false;
     }
-    QByteArray head;
-    for (int line = 0; line < LineCount; ++line) {
-        head += file->readLine(LineLength);
-    }
+    const QByteArray head = linesOf(*file);
     file->close();
     return parse(head, data);
 }
@@ -109,7 +103,10 @@ bool XmlFileHeader::getFileInfo(const QString &path, FileData *data)
     if (size <= 0) {
         return false;
     }
-    return parse(QByteArray(prefix.data(), endOfLines(prefix.data(), size)), data);
+    QByteArray contents = QByteArray::fromRawData(prefix.data(), size);
+    QBuffer buffer(&contents);
+    buffer.open(QIODevice::ReadOnly);
+    return parse(linesOf(buffer), data);
 }
 
 bool XmlFileHeader::parse(const QByteArray &head, FileData *data)
