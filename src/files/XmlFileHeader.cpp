@@ -27,6 +27,29 @@ QByteArray linesOf(QIODevice &device)
     return lines;
 }
 
+/// How much readLine() takes at most: Qt 6.4 leaves room for a zero, so it is one byte less.
+qsizetype readLineLength()
+{
+    QByteArray line(XmlFileHeader::LineLength + 1, 'x');
+    QBuffer buffer(&line);
+    buffer.open(QIODevice::ReadOnly);
+    return buffer.readLine(XmlFileHeader::LineLength).size();
+}
+
+/// What linesOf() gives for a file that begins with these bytes, several times as fast.
+QByteArray linesIn(const char *begin, qsizetype size)
+{
+    static const qsizetype length = readLineLength();
+    const char *const end = begin + size;
+    const char *at = begin;
+    for (int line = 0; line < XmlFileHeader::LineCount && at != end; ++line) {
+        const char *const limit = at + std::min(length, qsizetype(end - at));
+        const char *const newline = std::find(at, limit, '\n');
+        at = newline == limit ? limit : newline + 1;
+    }
+    return QByteArray(begin, at - begin);
+}
+
 /// @return how many bytes were read, fewer than asked for at the end of the file only; or -1.
 qsizetype readAtMost(int fd, char *buffer, size_t size)
 {
@@ -103,10 +126,7 @@ bool XmlFileHeader::getFileInfo(const QString &path, FileData *data)
     if (size <= 0) {
         return false;
     }
-    QByteArray contents = QByteArray::fromRawData(prefix.data(), size);
-    QBuffer buffer(&contents);
-    buffer.open(QIODevice::ReadOnly);
-    return parse(linesOf(buffer), data);
+    return parse(linesIn(prefix.data(), size), data);
 }
 
 bool XmlFileHeader::parse(const QByteArray &head, FileData *data)
