@@ -25,4 +25,6 @@ QList<Command> instrumentCommands();
 QList<Command> testCommands();
 QList<Command> fileCommands();
 QList<Command> transferCommands();
+QList<Command> treeCommands();
+QList<Command> syncCommands();
 QList<Command> watchCommands();

@@ -29,8 +29,8 @@ QList<QCommandLineOption> commonOptions()
 
 QList<Command> allCommands()
 {
-    return instrumentCommands() + testCommands() + fileCommands() + transferCommands()
-        + watchCommands();
+    return instrumentCommands() + testCommands() + fileCommands() + treeCommands()
+        + transferCommands() + syncCommands() + watchCommands();
 }
 
 /// What Qt says, as the end of a sentence of ours.

@@ -1,5 +1,6 @@
 #include "ChildProcess.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QStandardPaths>
 #include <QThread>
@@ -111,6 +112,11 @@ void ChildProcess::waitForPort(quint16 port)
         }
         QThread::msleep(20);
     }
+}
+
+QString besideThisProgram(const QString &name)
+{
+    return QCoreApplication::applicationDirPath() + u'/' + name;
 }
 
 double secondsToRun(const QString &program, const QStringList &arguments)

@@ -34,6 +34,8 @@ private:
     QProcess m_process;
 };
 
+/** The path of a program that is built together with this one. */
+QString besideThisProgram(const QString &name);
 /** Runs a program to its end and returns the seconds that took. */
 double secondsToRun(const QString &program, const QStringList &arguments);
 /** The path of a program, also of those for administrators; empty when it is not installed. */

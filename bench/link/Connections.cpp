@@ -4,7 +4,6 @@
 
 #include <stdexcept>
 
-#include "Workbench.h"
 #include "corba/BiDirectionalCORBA.h"
 
 using namespace Qt::StringLiterals;

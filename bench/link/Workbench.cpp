@@ -1,6 +1,5 @@
 #include "Workbench.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -72,11 +71,6 @@ bool isSameFile(const QString &path, const QString &otherPath)
 }
 
 } // namespace
-
-QString besideThisProgram(const QString &name)
-{
-    return QCoreApplication::applicationDirPath() + u'/' + name;
-}
 
 Workbench::Workbench(const QString &directory, double scale)
     : m_directory(directory)

@@ -5,9 +5,6 @@
 
 #include "harness/Stopwatch.h"
 
-/** The path of a program that is built together with this one. */
-QString besideThisProgram(const QString &name);
-
 /**
  * The files that the benchmarks carry, all in one directory of memory, and their places:
  * "here" belongs to the client, "there" to whoever serves.
