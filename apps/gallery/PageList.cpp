@@ -7,7 +7,9 @@
 #include "pages/DirectionKeysPage.h"
 #include "pages/DoubleClickPage.h"
 #include "pages/FaderPage.h"
+#include "pages/FileTreesPage.h"
 #include "pages/HelpDialogPage.h"
+#include "pages/LoadSavePage.h"
 #include "pages/LogPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/MiniMissionControlPage.h"
@@ -21,6 +23,7 @@
 #include "pages/SplashPage.h"
 #include "pages/StylesPage.h"
 #include "pages/ThemesPage.h"
+#include "pages/TransferPage.h"
 #include "pages/TripleActionPage.h"
 
 namespace {
@@ -39,7 +42,7 @@ PageList makePages()
 {
     return make<PropertiesPage, DialogPage, MessageBoxPage, HelpDialogPage, ButtonTabsPage,
                 NumpadPage, NumberFieldsPage, DirectionKeysPage, PasswordPage, TripleActionPage,
-                DelayClickPage, DoubleClickPage, FaderPage, SlidingStackPage, StylesPage,
-                MissionControlPage, MiniMissionControlPage, SidePanelsPage, SplashPage, ThemesPage,
-                LogPage, ArtworkPage>();
+                DelayClickPage, DoubleClickPage, FaderPage, SlidingStackPage, LoadSavePage,
+                TransferPage, FileTreesPage, StylesPage, MissionControlPage, MiniMissionControlPage,
+                SidePanelsPage, SplashPage, ThemesPage, LogPage, ArtworkPage>();
 }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QStringList>
+
+/// Absolute paths with "/" between their names, of either place.
+namespace FilePaths {
+
+QString join(const QString &folder, const QString &name);
+/// "/" for what has none.
+QString parentOf(const QString &path);
+QString nameOf(const QString &path);
+/// Itself and all above, beginning with "/".
+QStringList ancestors(const QString &path);
+/// Why @p name can't be the name of a file, for a person; empty when it can.
+QString nameFault(const QString &name);
+/// With @p suffix added if it has none.
+QString withSuffix(const QString &name, const QString &suffix);
+/// The patterns of "Traces (*.trc *.xml)", or the text itself as the only one.
+QStringList patternsOf(const QString &nameFilter);
+
+} // namespace FilePaths
