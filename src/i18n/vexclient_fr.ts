@@ -2,9 +2,530 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>AppHelpWidget</name>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AppMiniMissionControlWidget</name>
+    <message>
+        <source>Panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AppMissionControlWidget</name>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open mission control</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close mission control</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close application</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BreadcrumbBar</name>
+    <message>
+        <source>Path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ClientGUIBase</name>
+    <message>
+        <source>SETUP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TEST</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RESULT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result File Browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Application Selector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConflictDialog</name>
+    <message>
+        <source>Do the same with all that follow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To be copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel all</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FcpAppCORBA</name>
     <message>
         <source>the link to %1 was given up</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FileActionBar</name>
+    <message>
+        <source>List anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FileItemDelegate</name>
+    <message>
+        <source>New name</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FileListView</name>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FileNames</name>
+    <message>
+        <source>this is not the name of a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its name holds bytes that are no text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name is longer than %1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FileOperations</name>
+    <message>
+        <source>the instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the medium %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be renamed to &quot;%2&quot;: the name may be taken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is deleted can&apos;t be brought back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deleting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder and tap Paste to move %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a folder and tap Paste to copy %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moving…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FilePane</name>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search in this folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Types of files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The instrument can&apos;t be reached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; is gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This folder can&apos;t be listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing here fits the search.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This folder is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The link to the instrument is lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This entry&apos;s name can&apos;t be used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FilePaths</name>
+    <message>
+        <source>A name is needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name can&apos;t have a &quot;/&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name can&apos;t have the character %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FileQuestions</name>
+    <message>
+        <source>1 file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not everything was copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete %1 from %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete %1 with everything in it from %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete %1 with everything in them from %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 copied (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 not tried</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h %2 min left</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FileTransfer</name>
+    <message>
+        <source>it is no file any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes came of a file of %2 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no room left: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no link to the instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the instrument cannot list %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; it is unknown whether the instrument still did its last step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (the instrument answers %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the instrument cannot give a file of %1 the name %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the instrument cannot remove %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the instrument cannot make a folder in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is not the path of a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be carried into itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folders are nested too deeply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an unknown exception</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder %1 is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 are needed, and %2 are free in %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file at the target has the name of this folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; what may be left as %2 is removed when the file is carried again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a folder at the target has the name of this file</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -20,6 +541,135 @@
     </message>
 </context>
 <context>
+    <name>FwLoadSaveDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transfer files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be saved here now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a folder with the name &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists already. Overwrite it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What it holds now will be lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files are being copied. Cancel that and close?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What has been copied so far stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel and close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FwLogView</name>
+    <message>
+        <source>All levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FwNavigationButton</name>
+    <message>
+        <source>Previous window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next window</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>HelpBrowser</name>
     <message>
         <source>Only pages on this instrument can be shown here.</source>
@@ -31,6 +681,104 @@
     </message>
     <message>
         <source>This page can not be shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LampSign</name>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Indicator: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocalFileCopy</name>
+    <message>
+        <source>it is no file any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocalHelperThread</name>
+    <message>
+        <source>Cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files are being copied, moved or deleted already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is an entry of that name already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This can&apos;t be done with this folder, or not at this place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is neither a file nor a folder nor a link, and can&apos;t be copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing may be changed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocalSource</name>
+    <message>
+        <source>it is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this folder cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocalTarget</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was changed while it was written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be flushed to the medium: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NameField</name>
+    <message>
+        <source>File name</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -419,6 +1167,61 @@ Please Type Correct Password!</source>
     </message>
 </context>
 <context>
+    <name>QvexRemoteFileModel</name>
+    <message>
+        <source>It was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another operation is still running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The link to the instrument was lost; it is not known whether it was done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its name can&apos;t be used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instrument (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remote</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is not there any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no permission for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something of that name is there already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A folder can&apos;t be put into itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The instrument&apos;s storage is full.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QvextHelpDialog</name>
     <message>
         <source>Help</source>
@@ -442,6 +1245,103 @@ Please Type Correct Password!</source>
     </message>
 </context>
 <context>
+    <name>RemoteSource</name>
+    <message>
+        <source>it is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RemoteTarget</name>
+    <message>
+        <source>the instrument cannot replace %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; the old file may be called %2 now</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SidePanel</name>
+    <message>
+        <source>Close panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SplashLines</name>
+    <message>
+        <source>Start-up messages</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>StatusStrip</name>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop what is under way</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TransferPanel</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress of the transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel the transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TransferView</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be copied into itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both sides show the same folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to the right side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to the left side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>UnitPrefix</name>
     <message>
         <source>Enter a number before the unit</source>
@@ -449,6 +1349,30 @@ Please Type Correct Password!</source>
     </message>
     <message>
         <source>Too many digits for this unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VerdictSign</name>
+    <message>
+        <source>No result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See results</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>subject and verdict</comment>
         <translation type="unfinished"></translation>
     </message>
 </context>
