@@ -1,0 +1,70 @@
+// level-meter: an instrument application to learn from. It measures the level and the bit errors of
+// a received signal; the values are made up, the test that they belong to runs at the controller.
+
+#include "ControllerLink.h"
+#include "Framework.h"
+#include "Meter.h"
+#include "MeterWindow.h"
+#include "Options.h"
+#include "Platform.h"
+#include "Settings.h"
+#include "SimulatedSource.h"
+#include "tour/Tour.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum ExitCode { Done = 0, Failed = 1, Misused = 2 };
+
+int complain(const QString &message, ExitCode code)
+{
+    std::fprintf(stderr, "level-meter: %s\n", qPrintable(message));
+    return code;
+}
+
+/// The order of the parts is that of their lives: what is made later uses what was made before.
+int run(const Options &options, QVector<QString> &words)
+{
+    Settings settings(options.settingsFolder);
+    ControllerLink link;
+    Meter meter(std::make_unique<SimulatedSource>());
+    MeterWindow window(words, settings, meter, link, options.resultsFolder);
+    const Framework framework(window, meter, link);
+    window.show();
+    if (options.useLink) {
+        link.start(options.host, options.port);
+    }
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QVector<QString> words;
+    for (int i = 1; i < argc; ++i) {
+        words += QString::fromLocal8Bit(argv[i]);
+    }
+    const Options options = Options::parse(words);
+    if (!options.error.isEmpty()) {
+        return complain(options.error, Misused);
+    }
+    if (options.help) {
+        std::fputs(qPrintable(Options::helpText()), stdout);
+        return Done;
+    }
+    const bool isTour = !options.tourFolder.isEmpty();
+    const Platform platform(isTour);
+    if (!platform.error().isEmpty()) {
+        return complain(platform.error(), Failed);
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"level-meter"_s);
+    Platform::setLook();
+    return run(options, words);
+}
