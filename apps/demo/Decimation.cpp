@@ -36,9 +36,9 @@ QList<QPointF> Decimation::decimate(const QVector<Sample> &samples, double from,
     if (columns < 1 || !(from < to) || samples.isEmpty()) {
         return points;
     }
-    Iterator first = std::lower_bound(
-        samples.cbegin(), samples.cend(), from,
-        [](const Sample &sample, double t) { return sample.time < t; });
+    Iterator first =
+        std::lower_bound(samples.cbegin(), samples.cend(), from,
+                         [](const Sample &sample, double t) { return sample.time < t; });
     Iterator last = firstAfter(first, samples.cend(), to);
     first -= first == samples.cbegin() ? 0 : 1;
     last += last == samples.cend() ? 0 : 1;
@@ -48,8 +48,8 @@ QList<QPointF> Decimation::decimate(const QVector<Sample> &samples, double from,
     }
     points.reserve(2 * columns + 4);
     for (int column = 0; first != last; ++column) {
-        const double end = column < columns ? from + (to - from) * (column + 1) / columns
-                                            : samples.last().time;
+        const double end =
+            column < columns ? from + (to - from) * (column + 1) / columns : samples.last().time;
         const Iterator next = firstAfter(first, last, end);
         if (next != first) {
             appendColumn(points, first, next);

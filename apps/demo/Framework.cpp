@@ -46,7 +46,8 @@ bool Framework::eventFilter(QObject *, QEvent *event)
     if (event->type() == QEvent::Close && !m_isClosing) {
         event->ignore();
         // Not from within the event: the question runs a loop of its own.
-        QMetaObject::invokeMethod(this, [this] { shutDown(true); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { shutDown(true); }, Qt::QueuedConnection);
         return true;
     }
     return false;

@@ -44,7 +44,7 @@ QFont Look::scaled(const QFont &font, double factor, bool isBold)
 
 QColor Look::inkOn(const QColor &ground)
 {
-    const bool isBlackBetter = ColorTheme::contrast(Qt::black, ground)
-        > ColorTheme::contrast(Qt::white, ground);
+    const bool isBlackBetter =
+        ColorTheme::contrast(Qt::black, ground) > ColorTheme::contrast(Qt::white, ground);
     return isBlackBetter ? Qt::black : Qt::white;
 }

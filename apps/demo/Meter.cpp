@@ -21,7 +21,8 @@ Meter::Meter(std::unique_ptr<MeasurementSource> source, QObject *parent)
     m_endTimer.setSingleShot(true);
     m_endTimer.setInterval(patience);
     connect(&m_endTimer, &QTimer::timeout, this, [this] {
-        finish(m_ending, RunEvent::Warning, tr("The instrument does not say whether its test has ended."));
+        finish(m_ending, RunEvent::Warning,
+               tr("The instrument does not say whether its test has ended."));
     });
 }
 
@@ -83,8 +84,9 @@ void Meter::testLaunched(qint32 id)
         return;
     }
     if (id <= 0) {
-        finish(Run::Ending::NotStarted, RunEvent::Failure,
-               tr("The instrument refused to launch its test \"%1\".").arg(m_run.settings.testName));
+        finish(
+            Run::Ending::NotStarted, RunEvent::Failure,
+            tr("The instrument refused to launch its test \"%1\".").arg(m_run.settings.testName));
         return;
     }
     m_testId = id;

@@ -76,8 +76,7 @@ void ResultFiles::saveAtOnce(const Run &run)
 
 void ResultFiles::write(const QString &path, const Run &run)
 {
-    const RunFile file {
-        {m_serverId, appType(), appTech(), m_frame.getApplicationPort()}, run};
+    const RunFile file {{m_serverId, appType(), appTech(), m_frame.getApplicationPort()}, run};
     const QString error = file.write(path);
     if (error.isEmpty()) {
         toast(tr("Saved as %1").arg(QFileInfo(path).fileName()));
@@ -134,7 +133,8 @@ void ResultFiles::uploadEnded(const QString &path, const TransferSummary &summar
     } else {
         const QString reason =
             summary.failures.isEmpty() ? summary.reason : summary.failures.constFirst().reason;
-        complain(tr("%1 did not get to the instrument: %2").arg(QFileInfo(path).fileName(), reason));
+        complain(
+            tr("%1 did not get to the instrument: %2").arg(QFileInfo(path).fileName(), reason));
     }
     Q_EMIT uploaded(path, isDone);
 }
@@ -150,7 +150,8 @@ void ResultFiles::transfer()
 
 void ResultFiles::remove(const QString &path)
 {
-    const QString question = tr("Delete %1? It can't be brought back.").arg(QFileInfo(path).fileName());
+    const QString question =
+        tr("Delete %1? It can't be brought back.").arg(QFileInfo(path).fileName());
     if (QvexMessageBox::question(&m_frame, tr("Delete a result"), question)
         != QDialogButtonBox::Yes) {
         return;

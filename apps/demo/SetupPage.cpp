@@ -171,8 +171,8 @@ void SetupPage::showAll()
     for (const NumberRow &row : m_numbers) {
         showProperty(row.id);
     }
-    for (const long id : {Settings::Pattern, Settings::TestName, Settings::Language,
-                          Settings::Theme}) {
+    for (const long id :
+         {Settings::Pattern, Settings::TestName, Settings::Language, Settings::Theme}) {
         showProperty(id);
     }
 }
@@ -190,7 +190,8 @@ void SetupPage::showProperty(long id)
     }
     for (const NumberRow &row : m_numbers) {
         // Not when it is the field that has set it: its editor would lose its place.
-        if (row.id == id && (row.field->text().isEmpty() || row.field->value() != m_settings.value(row.id))) {
+        if (row.id == id
+            && (row.field->text().isEmpty() || row.field->value() != m_settings.value(row.id))) {
             row.field->setValue(m_settings.value(row.id));
         }
     }
@@ -217,8 +218,7 @@ void SetupPage::chooseLanguage()
         names += Language::name(language);
     }
     const auto current = languages.indexOf(m_settings.text(Settings::Language));
-    const int chosen =
-        ChoiceDialog::choose(this, tr("Language"), names, static_cast<int>(current));
+    const int chosen = ChoiceDialog::choose(this, tr("Language"), names, static_cast<int>(current));
     if (chosen >= 0) {
         m_settings.setText(Settings::Language, languages[chosen]);
     }

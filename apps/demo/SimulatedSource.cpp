@@ -63,8 +63,7 @@ double SimulatedSource::levelAt(double time)
     if (time >= m_burst.end) {
         m_burst = nextBurst(time);
     }
-    const double drift =
-        driftDepth * std::sin(2 * std::numbers::pi * time / driftPeriod + m_phase);
+    const double drift = driftDepth * std::sin(2 * std::numbers::pi * time / driftPeriod + m_phase);
     const double drop = time >= m_burst.start ? m_burst.depth : 0;
     std::normal_distribution<double> jitter(0, noise);
     // As exact as the file, so that a run that was read back is the one that was measured.

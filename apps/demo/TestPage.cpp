@@ -147,7 +147,7 @@ void TestPage::showState()
     m_startStop->setText(isBusy ? tr("Stop") : tr("Start"));
     m_startStop->setEnabled(isBusy ? m_meter.state() != Meter::State::Stopping : m_canStart);
     m_save->setText(m_isSaved && !m_meter.run().samples().isEmpty() && !isBusy ? tr("Saved")
-                                                                              : tr("Save result"));
+                                                                               : tr("Save result"));
     m_save->setEnabled(!isBusy && !m_isSaved);
     m_state->setText(stateText());
     showVerdict();
@@ -157,7 +157,8 @@ QString TestPage::stateText() const
 {
     switch (m_meter.state()) {
     case Meter::State::Launching:
-        return tr("The instrument launches its test \"%1\" ...").arg(m_meter.run().settings.testName);
+        return tr("The instrument launches its test \"%1\" ...")
+            .arg(m_meter.run().settings.testName);
     case Meter::State::Running:
         return tr("Measuring");
     case Meter::State::Interrupted:

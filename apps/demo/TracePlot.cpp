@@ -175,9 +175,9 @@ void TracePlot::setRange(const QRectF &range)
 void TracePlot::showSamples()
 {
     const int columns = std::max(1, qRound(m_chart->plotArea().width()));
-    m_trace->replace(m_run ? Decimation::decimate(m_run->samples(), m_time->min(), m_time->max(),
-                                                  columns)
-                           : QList<QPointF>());
+    m_trace->replace(
+        m_run ? Decimation::decimate(m_run->samples(), m_time->min(), m_time->max(), columns)
+              : QList<QPointF>());
     viewport()->update();
 }
 
@@ -232,9 +232,9 @@ void TracePlot::setMarker(QPointF position)
 int TracePlot::sampleNear(double time) const
 {
     const QVector<Sample> &samples = m_run->samples();
-    const auto after = std::lower_bound(
-        samples.begin(), samples.end(), time,
-        [](const Sample &sample, double wanted) { return sample.time < wanted; });
+    const auto after =
+        std::lower_bound(samples.begin(), samples.end(), time,
+                         [](const Sample &sample, double wanted) { return sample.time < wanted; });
     const auto index = static_cast<int>(after - samples.begin());
     return std::min(index, static_cast<int>(samples.size()) - 1);
 }

@@ -9,7 +9,6 @@
 #include "Platform.h"
 #include "Settings.h"
 #include "SimulatedSource.h"
-#include "tour/Tour.h"
 
 #include <QApplication>
 
