@@ -117,8 +117,8 @@ void PlotGestures::move(QPointF position)
 
 void PlotGestures::pinch(const QTouchEvent &event)
 {
-    const QEventPoint &one = event.point(0);
-    const QEventPoint &other = event.point(1);
+    const QEventPoint &one = event.points().at(0);
+    const QEventPoint &other = event.points().at(1);
     const QPointF before = one.lastPosition() - other.lastPosition();
     const QPointF now = one.position() - other.position();
     const double horizontally = spread(before.x(), now.x());
