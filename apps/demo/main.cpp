@@ -9,8 +9,10 @@
 #include "Platform.h"
 #include "Settings.h"
 #include "SimulatedSource.h"
+#include "tour/Tour.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -35,10 +37,30 @@ int run(const Options &options, QVector<QString> &words)
     MeterWindow window(words, settings, meter, link, options.resultsFolder);
     const Framework framework(window, meter, link);
     window.show();
-    if (options.useLink) {
-        link.start(options.host, options.port);
+    if (options.tourFolder.isEmpty()) {
+        if (options.useLink) {
+            link.start(options.host, options.port);
+        }
+        return QApplication::exec();
     }
-    return QApplication::exec();
+    Tour tour(window, settings, meter, link, options.tourFolder, options.resultsFolder);
+    QObject::connect(&tour, &QThread::finished, &window, &QCoreApplication::quit);
+    // The window is gone at the tour's end, but not the tour.
+    QApplication::setQuitOnLastWindowClosed(false);
+    tour.start();
+    while (!tour.isFinished()) {
+        QApplication::exec();
+    }
+    return tour.hasPassed() ? Done : Failed;
+}
+
+/// A tour changes settings and saves results: not those of the person who has asked for it.
+int runTour(Options options, QVector<QString> &words)
+{
+    const QTemporaryDir folder;
+    options.settingsFolder = folder.filePath(u"settings"_s);
+    options.resultsFolder = folder.filePath(u"results"_s);
+    return run(options, words);
 }
 
 } // namespace
@@ -65,5 +87,5 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"level-meter"_s);
     Platform::setLook();
-    return run(options, words);
+    return isTour ? runTour(options, words) : run(options, words);
 }
