@@ -25,6 +25,7 @@ ChoiceDialog::ChoiceDialog(QWidget *parent, const QStringList &choices, int curr
     setAutoClose(true);
     m_list->setObjectName(u"Choices"_s);
     m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setStyleSheet(u"QListWidget::item { padding-left: 12px; }"_s);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     for (const QString &choice : choices) {
         auto *item = new QListWidgetItem(choice, m_list);

@@ -67,7 +67,8 @@ int runTour(Options options, QVector<QString> &words)
 
 int main(int argc, char *argv[])
 {
-    QVector<QString> words;
+    // A colour of its own, unless the command line has another: the last one counts.
+    QVector<QString> words = {u"--appColor=38,70,83"_s};
     for (int i = 1; i < argc; ++i) {
         words += QString::fromLocal8Bit(argv[i]);
     }

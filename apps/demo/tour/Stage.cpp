@@ -47,7 +47,9 @@ QWidget *Stage::shown(const QString &name) const
 {
     const QList<QWidget *> found = m_window.findChildren<QWidget *>(name);
     for (QWidget *widget : found) {
-        if (widget->isVisible() && !widget->visibleRegion().isEmpty()) {
+        // A panel that is shut is visible, too, beside the window.
+        const QRect place(widget->mapTo(&m_window, QPoint()), widget->size());
+        if (widget->isVisible() && place.intersects(m_window.rect())) {
             return widget;
         }
     }

@@ -245,26 +245,24 @@ void Tour::startRun()
     m_stage.picture(u"running"_s);
 }
 
+/// Empty when there is no plot. GUI thread.
+QRectF Tour::plotRange() const
+{
+    const auto *plot = qobject_cast<TracePlot *>(m_stage.shown(u"TracePlot"_s));
+    return plot ? plot->visibleRange() : QRectF();
+}
+
 void Tour::usePlot()
 {
-    const auto range = [this] {
-        return m_stage.ask([this] {
-            return static_cast<TracePlot *>(m_stage.shown(u"TracePlot"_s))->visibleRange();
-        });
-    };
-    const QRectF all = range();
     const QPoint centre = m_stage.place(u"TracePlot"_s) - QPoint(250, 0);
+    const QRectF all = m_stage.ask([this] { return plotRange(); });
     m_stage.pinch(centre, 120, 400);
-    m_stage.expect(u"two fingers zoom the plot"_s, [&] {
-        return static_cast<TracePlot *>(m_stage.shown(u"TracePlot"_s))->visibleRange().width()
-            < all.width() / 2;
-    });
-    const QRectF zoomed = range();
+    m_stage.expect(u"two fingers zoom the plot"_s,
+                   [&] { return plotRange().width() < all.width() / 2; });
+    const QRectF zoomed = m_stage.ask([this] { return plotRange(); });
     m_stage.drag(centre, centre + QPoint(60, 0));
-    m_stage.expect(u"a finger moves the plot"_s, [&] {
-        return static_cast<TracePlot *>(m_stage.shown(u"TracePlot"_s))->visibleRange().left()
-            < zoomed.left();
-    });
+    m_stage.expect(u"a finger moves the plot"_s,
+                   [&] { return plotRange().left() < zoomed.left(); });
     m_stage.tapAt(centre - QPoint(60, 0));
     m_stage.tapAt(centre + QPoint(60, 40));
     m_stage.expect(u"two taps set the markers"_s,
@@ -273,10 +271,8 @@ void Tour::usePlot()
     m_stage.tap(u"ZoomIn"_s);
     m_stage.tap(u"ZoomOut"_s);
     m_stage.tap(u"Fit"_s);
-    m_stage.expect(u"the plot shows all again"_s, [&] {
-        return static_cast<TracePlot *>(m_stage.shown(u"TracePlot"_s))->visibleRange().width()
-            == all.width();
-    });
+    m_stage.expect(u"the plot shows all again"_s,
+                   [&] { return plotRange().width() == all.width(); });
 }
 
 void Tour::loseLink()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRectF>
 #include <QThread>
 #include <QVector>
 
@@ -44,6 +45,7 @@ private:
     void type(const QString &keys);
     void waitForMeasurement();
     QString onlyResult() const;
+    QRectF plotRange() const;
 
     void seeStart();
     void readHelp();
