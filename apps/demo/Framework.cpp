@@ -62,7 +62,9 @@ void Framework::shutDown(bool canCancel)
         ? tr("A run is under way. Stop it and close?")
         : tr("The last result was not saved. Close all the same?");
     if (canCancel && m_window.hasUnsavedRun()
-        && QvexMessageBox::question(&m_window, tr("Close the level meter"), question)
+        && QvexMessageBox::question(&m_window, tr("Close the level meter"), question,
+                                    QDialogButtonBox::Yes | QDialogButtonBox::No,
+                                    QDialogButtonBox::No)
             != QDialogButtonBox::Yes) {
         m_window.ApplicationCloseCanceled();
         return;

@@ -31,7 +31,7 @@ Meter::~Meter() = default;
 double Meter::elapsed() const
 {
     if (!m_clock.isValid()) {
-        return 0;
+        return m_endTime;
     }
     return std::min(static_cast<double>(m_clock.elapsed()) / 1000,
                     static_cast<double>(m_run.settings.duration));
@@ -46,6 +46,7 @@ void Meter::start(const MeterSettings &settings)
     m_run.settings = settings;
     m_run.started = QDateTime::currentDateTime();
     m_clock.invalidate();
+    m_endTime = 0;
     m_testId = 0;
     m_stopWanted = false;
     m_levelIsLow = false;
@@ -248,6 +249,8 @@ void Meter::finish(Run::Ending ending, RunEvent::Kind kind, const QString &text)
     m_collectTimer.stop();
     m_endTimer.stop();
     m_run.ending = ending;
+    m_endTime = elapsed();
+    m_clock.invalidate();
     addEvent(kind, text);
     m_testId = 0;
     setState(State::Idle);

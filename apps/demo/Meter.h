@@ -87,7 +87,8 @@ private:
     Run m_run;
     State m_state = State::Idle;
     Run::Ending m_ending = Run::Ending::Complete;
-    QElapsedTimer m_clock;
+    QElapsedTimer m_clock; ///< runs from the beginning of the measurement to the end of the run
+    double m_endTime = 0; ///< seconds, of a run that is over
     QTimer m_collectTimer;
     QTimer m_endTimer; ///< the instrument does not say that the test has gone
     qint32 m_testId = 0; ///< 0: none, or not known yet

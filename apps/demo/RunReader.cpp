@@ -151,12 +151,11 @@ void RunReader::readEvent(Run &run)
 
 void RunReader::readSamples(Run &run)
 {
-    const double from = attribute(u"from"_s, 0, longestTime);
+    double number = std::round(attribute(u"first"_s, 0, longestTime * run.settings.sampleRate));
     const QString text = m_xml.readElementText();
-    int count = 0;
     for (const QStringView word : QStringView(text).tokenize(u' ', Qt::SkipEmptyParts)) {
-        readSample(run, word, from + static_cast<double>(count) / run.settings.sampleRate);
-        ++count;
+        readSample(run, word, number / run.settings.sampleRate);
+        ++number;
         if (!m_error.isEmpty()) {
             return;
         }

@@ -2,6 +2,8 @@
 
 #include "RunFile.h"
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -95,7 +97,7 @@ void RunWriter::writeSamples(const Run &run)
     }
 }
 
-/// Only the first sample's time is written: the others follow by the sample rate.
+/// Of the times only the first one is written, as a number of intervals, so that it is exact.
 void RunWriter::writeBlock(const Run &run, int first, int last)
 {
     QStringList levels;
@@ -103,7 +105,8 @@ void RunWriter::writeBlock(const Run &run, int first, int last)
         levels += text(run.samples()[i]);
     }
     m_xml.writeStartElement(u"Samples"_s);
-    m_xml.writeAttribute(u"from"_s, text(run.samples()[first].time));
+    const double number = run.samples()[first].time * run.settings.sampleRate;
+    m_xml.writeAttribute(u"first"_s, QString::number(std::llround(number)));
     m_xml.writeCharacters(levels.join(u' '));
     m_xml.writeEndElement();
 }

@@ -12,6 +12,7 @@ Toast::Toast(QWidget *parent)
     setObjectName(u"Toast"_s);
     setAlignment(Qt::AlignCenter);
     setFont(Look::scaled(font(), 1.1));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
     setForegroundRole(QPalette::ToolTipText);
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &QWidget::hide);
@@ -31,11 +32,6 @@ void Toast::showText(const QString &text, int milliseconds, int width, int heigh
     show();
     raise();
     m_timer.start(milliseconds);
-}
-
-void Toast::mouseReleaseEvent(QMouseEvent *)
-{
-    hide();
 }
 
 void Toast::paintEvent(QPaintEvent *event)

@@ -3,7 +3,8 @@
 #include <QLabel>
 #include <QTimer>
 
-/// A short message over the lower part of its parent, that goes by itself or by a tap.
+/// A short message over the lower part of its parent, that goes by itself. What is
+/// below it can be touched.
 class Toast : public QLabel
 {
     Q_OBJECT
@@ -15,7 +16,6 @@ public:
     void showText(const QString &text, int milliseconds, int width, int height);
 
 protected:
-    void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -138,7 +138,10 @@ void TracePlot::toggleMarkers()
         m_markers.clear();
     } else {
         const QRectF range = visibleRange();
-        m_markers = {range.x() + range.width() / 3, range.x() + 2 * range.width() / 3};
+        for (const double share : {1.0 / 3, 2.0 / 3}) {
+            const int index = sampleNear(range.x() + share * range.width());
+            m_markers.append(m_run->samples()[index].time);
+        }
     }
     viewport()->update();
     Q_EMIT markersChanged();
@@ -216,7 +219,9 @@ void TracePlot::setMarker(QPointF position)
     if (!m_run || m_run->samples().isEmpty() || !m_chart->plotArea().contains(position)) {
         return;
     }
-    const double time = m_chart->mapToValue(position, m_trace).x();
+    // On a sample: what is measured later must not be what a marker is moved to.
+    const double time =
+        m_run->samples()[sampleNear(m_chart->mapToValue(position, m_trace).x())].time;
     if (m_markers.size() < markerCount) {
         m_markers.append(time);
     } else {
@@ -292,7 +297,9 @@ void TracePlot::drawGaps(QPainter &painter, const QRectF &area) const
         const QRectF gap(left, area.top(), right - left, area.height());
         painter.fillRect(gap, colour("alternateBase"));
         painter.setPen(colour("warning"));
-        painter.drawText(gap, Qt::AlignCenter, tr("no link"));
+        if (painter.fontMetrics().horizontalAdvance(tr("no link")) < gap.width()) {
+            painter.drawText(gap, Qt::AlignCenter, tr("no link"));
+        }
     }
 }
 

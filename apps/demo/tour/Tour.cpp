@@ -254,7 +254,12 @@ QRectF Tour::plotRange() const
 
 void Tour::usePlot()
 {
-    const QPoint centre = m_stage.place(u"TracePlot"_s) - QPoint(250, 0);
+    m_stage.expect(u"there is something to look at"_s,
+                   [this] { return m_meter.run().samples().size() > 1500; });
+    const QPoint centre = m_stage.ask([this] {
+        const QWidget *plot = m_stage.shown(u"TracePlot"_s);
+        return plot->mapTo(&m_window, QPoint(200, plot->height() / 2));
+    });
     const QRectF all = m_stage.ask([this] { return plotRange(); });
     m_stage.pinch(centre, 120, 400);
     m_stage.expect(u"two fingers zoom the plot"_s,
