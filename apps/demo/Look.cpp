@@ -6,6 +6,8 @@
 #include <frame/ColorTheme.h>
 #include <frame/ElidedButtonStyle.h>
 
+using namespace Qt::StringLiterals;
+
 QPushButton *Look::button(const QString &objectName, QWidget *parent)
 {
     // One style for all buttons: a translation that is too long ends in an ellipsis.
@@ -40,6 +42,26 @@ QFont Look::scaled(const QFont &font, double factor, bool isBold)
     scaled.setPointSizeF(font.pointSizeF() * factor);
     scaled.setBold(isBold);
     return scaled;
+}
+
+QString Look::sheet()
+{
+    const ColorTheme &theme = ColorTheme::current();
+    const auto name = [&theme](QAnyStringView colour) { return theme.color(colour).name(); };
+    return u"QPushButton { padding: 0 12px; color: %1; background-color: %2;"
+           " border: 1px solid %3; border-radius: 6px; }"
+           "QPushButton:focus { border: 3px solid %4; }"
+           "QPushButton:pressed { color: %5; background-color: %4; }"
+           "QPushButton:disabled { color: %6; background-color: transparent;"
+           " border: 1px dashed %6; }"
+           "QLineEdit { padding: 0 8px; border: 1px solid %3; border-radius: 6px; }"
+           "QLineEdit:focus { border: 2px solid %4; padding: 0 7px; }"
+           "QLineEdit:disabled { color: %6; border: 1px dashed %6; }"
+           "QListWidget::item, QTableWidget::item { padding-left: 8px; }"
+           "QProgressBar { border: 1px solid %3; border-radius: 4px; }"
+           "QProgressBar::chunk { background-color: %7; border-radius: 3px; }"_s.arg(
+               name("buttonText"), name("button"), name("border"), name("highlight"),
+               name("highlightedText"), name("disabledText"), name("progress"));
 }
 
 QColor Look::inkOn(const QColor &ground)

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QString>
 
 class QLabel;
 class QPushButton;
@@ -19,6 +20,12 @@ QPushButton *button(const QString &objectName, QWidget *parent);
 QPushButton *mainButton(const QString &objectName, QWidget *parent);
 QLabel *heading(QWidget *parent);
 QFont scaled(const QFont &font, double factor, bool isBold = false);
+
+/**
+ * The style sheet of a window, in the colours of the moment: buttons, entry lines and lists look
+ * like those of the library's dialogs. To be set anew when the theme changes.
+ */
+QString sheet();
 
 /// Black or white, whichever is legible on @p ground.
 QColor inkOn(const QColor &ground);

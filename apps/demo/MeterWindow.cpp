@@ -148,6 +148,11 @@ void MeterWindow::applyProperty(long id)
         // Only names that it knows: the file could hold anything.
         const bool isLight = m_settings.text(Settings::Theme) == u"light"_s;
         setColorTheme({isLight ? u"light"_s : u"dark"_s});
+        for (QWidget *part :
+             {static_cast<QWidget *>(m_setup), static_cast<QWidget *>(m_test),
+              static_cast<QWidget *>(m_result), static_cast<QWidget *>(m_linkPanel)}) {
+            part->setStyleSheet(Look::sheet());
+        }
     } else if (id == Settings::Language) {
         m_language.apply(m_settings.text(Settings::Language));
         setLanguage(m_settings.text(Settings::Language));
@@ -181,7 +186,9 @@ void MeterWindow::updateText()
     setApplicationName(tr("Level meter"));
     setWindowTitle(tr("Level meter"));
     showLink();
-    setMiniMcExpandButtonText(m_linkPanel, tr("Link"));
+    // The button is narrow, so that it covers nothing of the windows: it has no text.
+    setMiniMcExpandButtonText(m_linkPanel, {});
+    setMiniMcExpandButtonSize(m_linkPanel, {Look::fingerSize, Look::fingerSize});
 }
 
 void MeterWindow::resizeEvent(QResizeEvent *event)
