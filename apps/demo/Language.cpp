@@ -14,8 +14,7 @@ QStringList Language::all()
 
 QString Language::name(const QString &language)
 {
-    // Locales tell countries apart, which a list with one English does not need.
-    return language == u"en"_s ? u"English"_s : VexTranslation::nativeName(language);
+    return VexTranslation::nativeName(language);
 }
 
 void Language::apply(const QString &language)

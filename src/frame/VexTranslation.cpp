@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <algorithm>
 #include <array>
 #include <memory>
 
@@ -12,8 +13,22 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::array<QLatin1StringView, 10> Languages {
-    "en"_L1, "de"_L1, "es"_L1, "fr"_L1, "it"_L1, "ja"_L1, "ko"_L1, "pt_BR"_L1, "ru"_L1, "zh_CN"_L1};
+struct Language
+{
+    QLatin1StringView code;
+    QStringView nativeName; ///< QLocale adds the country to some
+};
+
+constexpr std::array<Language, 10> Languages {{{"en"_L1, u"English"},
+                                               {"de"_L1, u"Deutsch"},
+                                               {"es"_L1, u"Español"},
+                                               {"fr"_L1, u"Français"},
+                                               {"it"_L1, u"Italiano"},
+                                               {"ja"_L1, u"日本語"},
+                                               {"ko"_L1, u"한국어"},
+                                               {"pt_BR"_L1, u"Português (Brasil)"},
+                                               {"ru"_L1, u"Русский"},
+                                               {"zh_CN"_L1, u"简体中文"}}};
 
 struct Installed
 {
@@ -51,12 +66,14 @@ void replace(std::unique_ptr<QTranslator> &translator, std::unique_ptr<QTranslat
     }
 }
 
-bool isKnown(const QString &language)
+/// The library's language for @p language, or for what it is without its country; null if none.
+const Language *find(const QString &language)
 {
-    const auto matches = [&](QLatin1StringView known) {
-        return language == known || language.section(u'_', 0, 0) == known;
+    const auto isOf = [&](const Language &known) {
+        return language == known.code || language.section(u'_', 0, 0) == known.code;
     };
-    return std::any_of(Languages.begin(), Languages.end(), matches);
+    const auto found = std::find_if(Languages.begin(), Languages.end(), isOf);
+    return found == Languages.end() ? nullptr : found;
 }
 
 } // namespace
@@ -64,18 +81,16 @@ bool isKnown(const QString &language)
 QStringList VexTranslation::languages()
 {
     QStringList names;
-    for (const QLatin1StringView language : Languages) {
-        names.append(language);
+    for (const Language &language : Languages) {
+        names.append(language.code);
     }
     return names;
 }
 
 QString VexTranslation::nativeName(const QString &language)
 {
-    const QLocale locale(language);
-    const QString name = locale.nativeLanguageName();
-    // English and some others write the names of languages with a capital, menus all do.
-    return locale.toUpper(name.left(1)) + name.mid(1);
+    const Language *known = find(language);
+    return known != nullptr ? known->nativeName.toString() : QLocale(language).nativeLanguageName();
 }
 
 bool VexTranslation::install(const QString &language)
@@ -87,7 +102,7 @@ bool VexTranslation::install(const QString &language)
             loaded(locale, u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
     replace(installed.library, loaded(locale, u"vexclient"_s, u":/i18n"_s));
     QGuiApplication::setLayoutDirection(locale.textDirection());
-    return isKnown(language);
+    return find(language) != nullptr;
 }
 
 QString VexTranslation::installed()
