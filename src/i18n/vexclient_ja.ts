@@ -5,1398 +5,1399 @@
     <name>AppHelpWidget</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>進む</translation>
     </message>
     <message>
         <source>Close help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプを閉じる</translation>
     </message>
     <message>
         <source>Help page</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプページ</translation>
     </message>
 </context>
 <context>
     <name>AppMiniMissionControlWidget</name>
     <message>
         <source>Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>パネル</translation>
     </message>
 </context>
 <context>
     <name>AppMissionControlWidget</name>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Port: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ポート: %1</translation>
     </message>
     <message>
         <source>Open mission control</source>
-        <translation type="unfinished"></translation>
+        <translation>ミッションコントロールを開く</translation>
     </message>
     <message>
         <source>Close mission control</source>
-        <translation type="unfinished"></translation>
+        <translation>ミッションコントロールを閉じる</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>システム</translation>
     </message>
     <message>
         <source>Close application</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションを閉じる</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>進捗</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>概要</translation>
     </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>パス</translation>
     </message>
     <message>
         <source>Open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を開く</translation>
     </message>
 </context>
 <context>
     <name>ClientGUIBase</name>
     <message>
         <source>SETUP</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>TEST</source>
-        <translation type="unfinished"></translation>
+        <translation>テスト</translation>
     </message>
     <message>
         <source>RESULT</source>
-        <translation type="unfinished"></translation>
+        <translation>結果</translation>
     </message>
     <message>
         <source>Result File Browser</source>
-        <translation type="unfinished"></translation>
+        <translation>結果ファイルブラウザ</translation>
     </message>
     <message>
         <source>Application Selector</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションの選択</translation>
     </message>
     <message>
         <source>Applications</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーション</translation>
     </message>
 </context>
 <context>
     <name>ConflictDialog</name>
     <message>
         <source>Do the same with all that follow</source>
-        <translation type="unfinished"></translation>
+        <translation>以降のすべてに同じ処理を行う</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが存在します</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; はすでに存在します。</translation>
     </message>
     <message>
         <source>There now</source>
-        <translation type="unfinished"></translation>
+        <translation>既存のファイル</translation>
     </message>
     <message>
         <source>To be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーするファイル</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>上書き</translation>
     </message>
     <message>
         <source>Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>スキップ</translation>
     </message>
     <message>
         <source>Keep both</source>
-        <translation type="unfinished"></translation>
+        <translation>両方を残す</translation>
     </message>
     <message>
         <source>Cancel all</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてキャンセル</translation>
     </message>
 </context>
 <context>
     <name>FcpAppCORBA</name>
     <message>
         <source>the link to %1 was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 への接続を断念しました</translation>
     </message>
 </context>
 <context>
     <name>FileActionBar</name>
     <message>
         <source>List anew</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>New folder</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいフォルダ</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>名前の変更</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>移動</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>貼り付け</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
     <name>FileItemDelegate</name>
     <message>
         <source>New name</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい名前</translation>
     </message>
 </context>
 <context>
     <name>FileListView</name>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列</translation>
     </message>
 </context>
 <context>
     <name>FileNames</name>
     <message>
         <source>this is not the name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名ではありません</translation>
     </message>
     <message>
         <source>its name holds bytes that are no text</source>
-        <translation type="unfinished"></translation>
+        <translation>名前にテキストではないバイトが含まれています</translation>
     </message>
     <message>
         <source>the name is longer than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>名前が %1 バイトを超えています</translation>
     </message>
 </context>
 <context>
     <name>FileOperations</name>
     <message>
         <source>the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器</translation>
     </message>
     <message>
         <source>this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータ</translation>
     </message>
     <message>
         <source>the medium %1</source>
-        <translation type="unfinished"></translation>
+        <translation>メディア %1</translation>
     </message>
     <message>
         <source>No folder could be made here: it may be protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここにフォルダを作成できませんでした。保護されている可能性があります。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be renamed to &quot;%2&quot;: the name may be taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; の名前を &quot;%2&quot; に変更できません。その名前はすでに使われている可能性があります。</translation>
     </message>
     <message>
         <source>Renamed to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を &quot;%1&quot; に変更しました。</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>What is deleted can&apos;t be brought back.</source>
-        <translation type="unfinished"></translation>
+        <translation>削除したものは元に戻せません。</translation>
     </message>
     <message>
         <source>Deleting…</source>
-        <translation type="unfinished"></translation>
+        <translation>削除中…</translation>
     </message>
     <message>
         <source>Deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>削除しました。</translation>
     </message>
     <message>
         <source>%1 entries</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 個の項目</translation>
     </message>
     <message>
         <source>Open a folder and tap Paste to move %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を移動するには、フォルダを開いて [貼り付け] をタップしてください。</translation>
     </message>
     <message>
         <source>Open a folder and tap Paste to copy %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 をコピーするには、フォルダを開いて [貼り付け] をタップしてください。</translation>
     </message>
     <message>
         <source>Moving…</source>
-        <translation type="unfinished"></translation>
+        <translation>移動中…</translation>
     </message>
     <message>
         <source>Moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>移動しました。</translation>
     </message>
     <message>
         <source>Copying…</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー中…</translation>
     </message>
     <message>
         <source>Copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーしました。</translation>
     </message>
 </context>
 <context>
     <name>FilePane</name>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上の階層へ</translation>
     </message>
     <message>
         <source>Search in this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォルダ内を検索</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索</translation>
     </message>
     <message>
         <source>Types of files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの種類</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>The instrument can&apos;t be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器に接続できません。</translation>
     </message>
     <message>
         <source>%1 was removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が取り外されました。</translation>
     </message>
     <message>
         <source>There is no folder &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダ &quot;%1&quot; はありません。</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダ &quot;%1&quot; はなくなりました。</translation>
     </message>
     <message>
         <source>This folder can&apos;t be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォルダの内容を表示できません。</translation>
     </message>
     <message>
         <source>Loading…</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み中…</translation>
     </message>
     <message>
         <source>Nothing here fits the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>検索に一致する項目はありません。</translation>
     </message>
     <message>
         <source>This folder is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォルダは空です。</translation>
     </message>
     <message>
         <source>The link to the instrument is lost</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器との接続が失われました</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>再試行</translation>
     </message>
     <message>
         <source>This entry&apos;s name can&apos;t be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>この項目の名前は使用できません。</translation>
     </message>
 </context>
 <context>
     <name>FilePaths</name>
     <message>
         <source>A name is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前が必要です。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; は名前に使用できません。</translation>
     </message>
     <message>
         <source>A name can&apos;t have a &quot;/&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前に &quot;/&quot; は使用できません。</translation>
     </message>
     <message>
         <source>A name can&apos;t have the character %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前に文字 %1 は使用できません。</translation>
     </message>
     <message>
         <source>This name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前は長すぎます。</translation>
     </message>
 </context>
 <context>
     <name>FileQuestions</name>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 個のファイル</translation>
     </message>
     <message>
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 個のファイル</translation>
     </message>
     <message>
         <source>1 folder</source>
-        <translation type="unfinished"></translation>
+        <translation>1 個のフォルダ</translation>
     </message>
     <message>
         <source>%1 folders</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 個のフォルダ</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>Not everything was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>一部コピーされていません</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル済み</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1と %2</translation>
     </message>
     <message>
         <source>Delete %1 from %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>%2から%1を削除しますか?</translation>
     </message>
     <message>
         <source>Delete %1 with everything in it from %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>%2から%1を、中身も含めて削除しますか?</translation>
     </message>
     <message>
         <source>Delete %1 with everything in them from %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>%2から%1を、中身も含めて削除しますか?</translation>
     </message>
     <message>
         <source>%1 copied (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1をコピー (%2)</translation>
     </message>
     <message>
         <source>%1 skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 件スキップ</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 件失敗</translation>
     </message>
     <message>
         <source>%1 not tried</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 件未実行</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation type="unfinished"></translation>
+        <translation>残り %1 秒</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation type="unfinished"></translation>
+        <translation>残り %1 分</translation>
     </message>
     <message>
         <source>%1 h %2 min left</source>
-        <translation type="unfinished"></translation>
+        <translation>残り %1 時間 %2 分</translation>
     </message>
 </context>
 <context>
     <name>FileTransfer</name>
     <message>
         <source>it is no file any more</source>
-        <translation type="unfinished"></translation>
+        <translation>もうファイルではありません</translation>
     </message>
     <message>
         <source>it is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>存在しません</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り中に変更されました</translation>
     </message>
     <message>
         <source>%1 bytes came of a file of %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 バイトのファイルのうち %1 バイトしか届きませんでした</translation>
     </message>
     <message>
         <source>there is no room left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>空き領域がありません: %1</translation>
     </message>
     <message>
         <source>there is no link to the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器に接続されていません</translation>
     </message>
     <message>
         <source>the instrument cannot list %1</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器が %1 の内容を一覧できません</translation>
     </message>
     <message>
         <source>%1; it is unknown whether the instrument still did its last step</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。測定器が最後の手順を実行したかどうかは不明です</translation>
     </message>
     <message>
         <source>%1 (the instrument answers %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (測定器の応答: %2)</translation>
     </message>
     <message>
         <source>the instrument cannot give a file of %1 the name %2</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器が %1 のファイルに名前 %2 を付けられません</translation>
     </message>
     <message>
         <source>the instrument cannot remove %1</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器が %1 を削除できません</translation>
     </message>
     <message>
         <source>the instrument cannot make a folder in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器が %1 にフォルダを作成できません</translation>
     </message>
     <message>
         <source>this is not the path of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルのパスではありません</translation>
     </message>
     <message>
         <source>it cannot be carried into itself</source>
-        <translation type="unfinished"></translation>
+        <translation>それ自体の中へは転送できません</translation>
     </message>
     <message>
         <source>the folders are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダの階層が深すぎます</translation>
     </message>
     <message>
         <source>an unknown exception</source>
-        <translation type="unfinished"></translation>
+        <translation>不明な例外</translation>
     </message>
     <message>
         <source>the folder %1 is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダ %1 が存在しません</translation>
     </message>
     <message>
         <source>%1 are needed, and %2 are free in %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が必要ですが、%3 の空きは %2 です</translation>
     </message>
     <message>
         <source>a file at the target has the name of this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>転送先にこのフォルダと同じ名前のファイルがあります</translation>
     </message>
     <message>
         <source>%1; what may be left as %2 is removed when the file is carried again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。%2 に残っている可能性があるデータは、次にこのファイルを転送するときに削除されます</translation>
     </message>
     <message>
         <source>a folder at the target has the name of this file</source>
-        <translation type="unfinished"></translation>
+        <translation>転送先にこのファイルと同じ名前のフォルダがあります</translation>
     </message>
 </context>
 <context>
     <name>FwButtonTabWidget</name>
     <message>
         <source>Previous tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>前のタブ</translation>
     </message>
     <message>
         <source>More tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のタブ</translation>
     </message>
 </context>
 <context>
     <name>FwLoadSaveDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>開く</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>コンピュータ</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み</translation>
     </message>
     <message>
         <source>Transfer files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの転送</translation>
     </message>
     <message>
         <source>Nothing can be saved here now.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在ここには保存できません。</translation>
     </message>
     <message>
         <source>There is a folder with the name &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; という名前のフォルダがあります。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists already. Overwrite it?</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; はすでに存在します。上書きしますか?</translation>
     </message>
     <message>
         <source>What it holds now will be lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の内容は失われます。</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>上書き</translation>
     </message>
     <message>
         <source>Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>転送</translation>
     </message>
     <message>
         <source>Files are being copied. Cancel that and close?</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルをコピーしています。キャンセルして閉じますか?</translation>
     </message>
     <message>
         <source>What has been copied so far stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>これまでにコピーされたものは残ります。</translation>
     </message>
     <message>
         <source>Cancel and close</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルして閉じる</translation>
     </message>
     <message>
         <source>Go on</source>
-        <translation type="unfinished"></translation>
+        <translation>続行</translation>
     </message>
 </context>
 <context>
     <name>FwLogView</name>
     <message>
         <source>All levels</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのレベル</translation>
     </message>
     <message>
         <source>From info</source>
-        <translation type="unfinished"></translation>
+        <translation>情報以上</translation>
     </message>
     <message>
         <source>From warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告以上</translation>
     </message>
     <message>
         <source>Errors</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのカテゴリ</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>レベル</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>カテゴリ</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>再開</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>一時停止</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>クリア</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>ログ</translation>
     </message>
 </context>
 <context>
     <name>FwNavigationButton</name>
     <message>
         <source>Previous window</source>
-        <translation type="unfinished"></translation>
+        <translation>前のウィンドウ</translation>
     </message>
     <message>
         <source>Next window</source>
-        <translation type="unfinished"></translation>
+        <translation>次のウィンドウ</translation>
     </message>
 </context>
 <context>
     <name>HelpBrowser</name>
     <message>
         <source>Only pages on this instrument can be shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここに表示できるのは、この測定器にあるページだけです。</translation>
     </message>
     <message>
         <source>The help page is missing, or can not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプページがないか、読み取れません。</translation>
     </message>
     <message>
         <source>This page can not be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>このページは表示できません</translation>
     </message>
 </context>
 <context>
     <name>LampSign</name>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Indicator: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>インジケータ: %1</translation>
     </message>
 </context>
 <context>
     <name>LocalFileCopy</name>
     <message>
         <source>it is no file any more</source>
-        <translation type="unfinished"></translation>
+        <translation>もうファイルではありません</translation>
     </message>
 </context>
 <context>
     <name>LocalHelperThread</name>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルされました。</translation>
     </message>
     <message>
         <source>Files are being copied, moved or deleted already.</source>
-        <translation type="unfinished"></translation>
+        <translation>すでにファイルのコピー、移動、または削除が行われています。</translation>
     </message>
     <message>
         <source>There is an entry of that name already.</source>
-        <translation type="unfinished"></translation>
+        <translation>その名前の項目はすでに存在します。</translation>
     </message>
     <message>
         <source>This can&apos;t be done with this folder, or not at this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォルダまたはこの場所では実行できません。</translation>
     </message>
     <message>
         <source>This is neither a file nor a folder nor a link, and can&apos;t be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル、フォルダ、リンクのいずれでもないため、コピーできません。</translation>
     </message>
     <message>
         <source>It is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>使用中です。</translation>
     </message>
     <message>
         <source>Nothing may be changed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここでは何も変更できません。</translation>
     </message>
 </context>
 <context>
     <name>LocalSource</name>
     <message>
         <source>it is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>存在しません</translation>
     </message>
     <message>
         <source>this folder cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォルダを読み取れません</translation>
     </message>
 </context>
 <context>
     <name>LocalTarget</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>the folder %1 cannot be made: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダ %1 を作成できません: %2</translation>
     </message>
     <message>
         <source>%1 was changed while it was written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は書き込み中に変更されました</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に書き込めません: %2</translation>
     </message>
     <message>
         <source>%1 cannot be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を削除できません: %2</translation>
     </message>
     <message>
         <source>%1 cannot be flushed to the medium: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 をメディアに書き出せません: %2</translation>
     </message>
 </context>
 <context>
     <name>NameField</name>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名</translation>
     </message>
 </context>
 <context>
     <name>NumericField</name>
     <message>
         <source>Whole numbers only</source>
-        <translation type="unfinished"></translation>
+        <translation>整数のみ</translation>
     </message>
     <message>
         <source>No negative values</source>
-        <translation type="unfinished"></translation>
+        <translation>負の値は入力できません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no digit here</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; はここでは使用できません</translation>
     </message>
     <message>
         <source>Enter a number</source>
-        <translation type="unfinished"></translation>
+        <translation>数値を入力してください</translation>
     </message>
     <message>
         <source>Digits after the point: %1 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>小数点以下の桁数: 最大 %1 桁</translation>
     </message>
     <message>
         <source>Not a number in the range</source>
-        <translation type="unfinished"></translation>
+        <translation>範囲内の数値ではありません</translation>
     </message>
     <message>
         <source>The largest value is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最大値は %1 です</translation>
     </message>
     <message>
         <source>The smallest value is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最小値は %1 です</translation>
     </message>
 </context>
 <context>
     <name>NumpadKeys</name>
     <message>
         <source>Without a prefix</source>
-        <translation type="unfinished"></translation>
+        <translation>接頭語なし</translation>
     </message>
     <message>
         <source>Backspace</source>
-        <translation type="unfinished"></translation>
+        <translation>バックスペース</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>クリア</translation>
     </message>
     <message>
         <source>Cursor left</source>
-        <translation type="unfinished"></translation>
+        <translation>カーソルを左へ</translation>
     </message>
     <message>
         <source>Cursor right</source>
-        <translation type="unfinished"></translation>
+        <translation>カーソルを右へ</translation>
     </message>
     <message>
         <source>Change the sign</source>
-        <translation type="unfinished"></translation>
+        <translation>符号を変更</translation>
     </message>
     <message>
         <source>Decimal point</source>
-        <translation type="unfinished"></translation>
+        <translation>小数点</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>最小</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>最小値</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>最大</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>最大値</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルト</translation>
     </message>
 </context>
 <context>
     <name>NumpadPanel</name>
     <message>
         <source>Value: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>値: %1</translation>
     </message>
     <message>
         <source>Range: %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>範囲: %1 ～ %2</translation>
     </message>
     <message>
         <source>Step: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ステップ: %1</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード</translation>
     </message>
     <message>
         <source>Entry</source>
-        <translation type="unfinished"></translation>
+        <translation>入力</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Edit digits</source>
-        <translation type="unfinished"></translation>
+        <translation>桁を編集</translation>
     </message>
     <message>
         <source>Display password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードを表示</translation>
     </message>
     <message>
         <source>Disable password protection</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード保護を無効にする</translation>
     </message>
 </context>
 <context>
     <name>QLrudDialog</name>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>下</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>Keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>キーパッド</translation>
     </message>
     <message>
         <source>Move keys up</source>
-        <translation type="unfinished"></translation>
+        <translation>キーを上へ移動</translation>
     </message>
     <message>
         <source>Move keys down</source>
-        <translation type="unfinished"></translation>
+        <translation>キーを下へ移動</translation>
     </message>
 </context>
 <context>
     <name>QvexDialogBorder</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>上へ移動</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>下へ移動</translation>
     </message>
     <message>
         <source>Move left</source>
-        <translation type="unfinished"></translation>
+        <translation>左へ移動</translation>
     </message>
     <message>
         <source>Move right</source>
-        <translation type="unfinished"></translation>
+        <translation>右へ移動</translation>
     </message>
 </context>
 <context>
     <name>QvexFileMover</name>
     <message>
         <source>%1 was not carried: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は転送されませんでした: %2</translation>
     </message>
     <message>
         <source>%1 was not carried: an unknown exception</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は転送されませんでした: 不明な例外</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を読み取れません: %2</translation>
     </message>
     <message>
         <source>%1 exists on the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は測定器に存在します</translation>
     </message>
     <message>
         <source>the instrument cannot write %1</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器が %1 に書き込めません</translation>
     </message>
     <message>
         <source>the instrument could not store what was sent of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器が送信された %1 のデータを保存できませんでした</translation>
     </message>
     <message>
         <source>the destination has appeared on the instrument meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>その間に転送先が測定器上に作成されました</translation>
     </message>
     <message>
         <source>the instrument could not store the file</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器がファイルを保存できませんでした</translation>
     </message>
     <message>
         <source>%1 has shrunk while it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が読み取り中に小さくなりました</translation>
     </message>
     <message>
         <source>aborted after %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 バイトで中止されました</translation>
     </message>
     <message>
         <source>the instrument cannot read %1</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器が %1 を読み取れません</translation>
     </message>
     <message>
         <source>%1 exists</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はすでに存在します</translation>
     </message>
     <message>
         <source>%1 cannot be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を削除できません: %2</translation>
     </message>
     <message>
         <source>the folder of %1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のフォルダを作成できません</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に書き込めません: %2</translation>
     </message>
     <message>
         <source>the instrument could not read the file to its end</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器がファイルを最後まで読み取れませんでした</translation>
     </message>
 </context>
 <context>
     <name>QvexMessageBox</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>開く</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>破棄</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット</translation>
     </message>
     <message>
         <source>Restore Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルトに戻す</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>Save All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて保存</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>Yes to All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてはい</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>No to All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべていいえ</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation type="unfinished"></translation>
+        <translation>中止</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>再試行</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>無視</translation>
     </message>
     <message>
         <source>Hide Details</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細を隠す</translation>
     </message>
     <message>
         <source>Show Details</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細を表示</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>Question</source>
-        <translation type="unfinished"></translation>
+        <translation>質問</translation>
     </message>
 </context>
 <context>
     <name>QvexNumpadDlg</name>
     <message>
         <source>The value stays as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>値は変更されません</translation>
     </message>
     <message>
         <source>%1; or choose a unit</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。または単位を選択してください</translation>
     </message>
     <message>
         <source>Enter a number</source>
-        <translation type="unfinished"></translation>
+        <translation>数値を入力してください</translation>
     </message>
 </context>
 <context>
     <name>QvexPasswordPopup</name>
     <message>
         <source>Password Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード保護</translation>
     </message>
     <message>
         <source>Password Does Not Match.
 Please Type Correct Password!</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードが一致しません。
+正しいパスワードを入力してください。</translation>
     </message>
 </context>
 <context>
     <name>QvexRemoteFileModel</name>
     <message>
         <source>It was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルされました。</translation>
     </message>
     <message>
         <source>Another operation is still running.</source>
-        <translation type="unfinished"></translation>
+        <translation>別の操作がまだ実行中です。</translation>
     </message>
     <message>
         <source>The link to the instrument was lost; it is not known whether it was done.</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器との接続が失われました。実行されたかどうかは不明です。</translation>
     </message>
     <message>
         <source>Its name can&apos;t be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>その名前は使用できません。</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器</translation>
     </message>
     <message>
         <source>Instrument (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器 (%1)</translation>
     </message>
     <message>
         <source>Internal</source>
-        <translation type="unfinished"></translation>
+        <translation>Internal</translation>
     </message>
     <message>
         <source>Remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Remote</translation>
     </message>
     <message>
         <source>It is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>もう存在しません。</translation>
     </message>
     <message>
         <source>There is no permission for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>権限がありません。</translation>
     </message>
     <message>
         <source>Something of that name is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>同じ名前のものがすでに存在します。</translation>
     </message>
     <message>
         <source>A folder can&apos;t be put into itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダをそれ自体の中に入れることはできません。</translation>
     </message>
     <message>
         <source>The instrument&apos;s storage is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器のストレージがいっぱいです。</translation>
     </message>
 </context>
 <context>
     <name>QvextHelpDialog</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>進む</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>ホーム</translation>
     </message>
     <message>
         <source>Help page</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプページ</translation>
     </message>
 </context>
 <context>
     <name>RemoteSource</name>
     <message>
         <source>it is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>存在しません</translation>
     </message>
 </context>
 <context>
     <name>RemoteTarget</name>
     <message>
         <source>the instrument cannot replace %1</source>
-        <translation type="unfinished"></translation>
+        <translation>測定器が %1 を置き換えられません</translation>
     </message>
     <message>
         <source>%1; the old file may be called %2 now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。古いファイルの名前が %2 になっている可能性があります</translation>
     </message>
 </context>
 <context>
     <name>SidePanel</name>
     <message>
         <source>Close panel</source>
-        <translation type="unfinished"></translation>
+        <translation>パネルを閉じる</translation>
     </message>
 </context>
 <context>
     <name>SplashLines</name>
     <message>
         <source>Start-up messages</source>
-        <translation type="unfinished"></translation>
+        <translation>起動メッセージ</translation>
     </message>
 </context>
 <context>
     <name>StatusStrip</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>停止</translation>
     </message>
     <message>
         <source>Stop what is under way</source>
-        <translation type="unfinished"></translation>
+        <translation>実行中の処理を停止</translation>
     </message>
 </context>
 <context>
     <name>TransferPanel</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1/秒</translation>
     </message>
     <message>
         <source>Progress of the transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>転送の進捗</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Cancel the transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>転送をキャンセル</translation>
     </message>
     <message>
         <source>Cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル中…</translation>
     </message>
 </context>
 <context>
     <name>TransferView</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be copied into itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; をそれ自体の中にコピーすることはできません。</translation>
     </message>
     <message>
         <source>Both sides show the same folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>両側に同じフォルダが表示されています。</translation>
     </message>
     <message>
         <source>Copy to the right side</source>
-        <translation type="unfinished"></translation>
+        <translation>右側へコピー</translation>
     </message>
     <message>
         <source>Copy to the left side</source>
-        <translation type="unfinished"></translation>
+        <translation>左側へコピー</translation>
     </message>
     <message>
         <source>To %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>転送先 %1:</translation>
     </message>
     <message>
         <source>Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>転送</translation>
     </message>
 </context>
 <context>
     <name>UnitPrefix</name>
     <message>
         <source>Enter a number before the unit</source>
-        <translation type="unfinished"></translation>
+        <translation>単位の前に数値を入力してください</translation>
     </message>
     <message>
         <source>Too many digits for this unit</source>
-        <translation type="unfinished"></translation>
+        <translation>この単位には桁数が多すぎます</translation>
     </message>
 </context>
 <context>
     <name>VerdictSign</name>
     <message>
         <source>No result</source>
-        <translation type="unfinished"></translation>
+        <translation>結果なし</translation>
     </message>
     <message>
         <source>Pass</source>
-        <translation type="unfinished"></translation>
+        <translation>合格</translation>
     </message>
     <message>
         <source>Fail</source>
-        <translation type="unfinished"></translation>
+        <translation>不合格</translation>
     </message>
     <message>
         <source>See results</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を参照</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>subject and verdict</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>VexLinkSupervisor</name>
     <message>
         <source>registered with %1:%2 as client %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2 にクライアント %3 として登録しました</translation>
     </message>
     <message>
         <source>the controller answers again</source>
-        <translation type="unfinished"></translation>
+        <translation>コントローラが再び応答しています</translation>
     </message>
     <message>
         <source>connecting to %1:%2, attempt %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2 に接続中、%3 回目の試行</translation>
     </message>
     <message>
         <source>no answer for %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms の間応答がありません</translation>
     </message>
     <message>
         <source>no longer watched</source>
-        <translation type="unfinished"></translation>
+        <translation>監視を終了しました</translation>
     </message>
 </context>
 </TS>
