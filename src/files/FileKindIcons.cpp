@@ -2,9 +2,8 @@
 
 #include <QApplication>
 #include <QFileIconProvider>
-#include <QFileInfo>
 
-#include "QvexFileModel.h"
+using namespace Qt::Literals::StringLiterals;
 
 FileKindIcons::FileKindIcons() = default;
 
@@ -20,9 +19,9 @@ QIcon FileKindIcons::icon(const QFileInfo &) const
     return QIcon();
 }
 
-QString FileKindIcons::type(const QFileInfo &info) const
+QString FileKindIcons::type(const QFileInfo &) const
 {
-    return QvexFileModel::typeText(info.fileName(), info.isDir());
+    return u"File"_s; // entries without a type are not shown
 }
 
 QIcon FileKindIcons::iconOf(IconType type) const

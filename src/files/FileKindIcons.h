@@ -7,11 +7,10 @@
 class QFileIconProvider;
 
 /**
- * Icons and types of files by what can be told without looking at them: whether they are folders,
- * and their names.
+ * Icons of files by what can be told without looking at them: whether they are folders.
  *
- * What QFileSystemModel asks for each of its entries, on its own thread, is the type and an icon of
- * a file; the latter is none. iconOf() is for the GUI thread.
+ * What QFileSystemModel asks for each of its entries, while the GUI waits, is the type and an icon
+ * of a file: one and the same for all, and none. iconOf() is for those that are seen.
  */
 class FileKindIcons : public QAbstractFileIconProvider
 {

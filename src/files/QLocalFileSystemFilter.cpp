@@ -2,8 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QFileSystemModel>
-#include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QVector>
@@ -13,6 +11,7 @@
 
 #include "FileHeadCache.h"
 #include "FileKindIcons.h"
+#include "LocalFileSystem.h"
 #include "QvexFileModel.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -48,10 +47,9 @@ struct QLocalFileSystemFilter::Private
     Qt::CaseSensitivity caseSensitivity() const;
     QString text(const QModelIndex &source) const;
     QIcon icon(const QModelIndex &source) const;
-    qint64 timeOf(const QModelIndex &source);
 
     FileKindIcons icons; ///< outlives the model that uses it
-    std::unique_ptr<QFileSystemModel> files;
+    std::unique_ptr<LocalFileSystem> files;
     QDir::Filters filter = QDir::AllEntries | QDir::NoDotAndDotDot | QDir::AllDirs;
     QStringList nameFilters;
     QVector<QRegularExpression> namePatterns; ///< empty: all names
@@ -59,7 +57,6 @@ struct QLocalFileSystemFilter::Private
     QString appType;
     QString appTech;
     FileHeadCache heads;
-    QHash<const void *, qint64> times; ///< of entries being sorted, by their indexes' ids
     bool showsSpecialFolders = false;
 };
 
@@ -132,23 +129,11 @@ QIcon QLocalFileSystemFilter::Private::icon(const QModelIndex &source) const
                                              : QAbstractFileIconProvider::File);
 }
 
-/// In ms. Told by QFileSystemModel they cost as much as a look at the time zone, 17 for each entry.
-qint64 QLocalFileSystemFilter::Private::timeOf(const QModelIndex &source)
-{
-    const auto known = times.constFind(source.internalPointer());
-    if (known != times.cend()) {
-        return *known;
-    }
-    const qint64 time = files->lastModified(source).toMSecsSinceEpoch();
-    times.insert(source.internalPointer(), time);
-    return time;
-}
-
 QLocalFileSystemFilter::QLocalFileSystemFilter(bool readOnly, QObject *parent)
     : QSortFilterProxyModel(parent)
     , d(std::make_unique<Private>())
 {
-    d->files = std::make_unique<QFileSystemModel>();
+    d->files = std::make_unique<LocalFileSystem>();
     d->files->setReadOnly(readOnly);
     d->files->setNameFilterDisables(true);
     d->files->setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
@@ -157,12 +142,6 @@ QLocalFileSystemFilter::QLocalFileSystemFilter(bool readOnly, QObject *parent)
             &QLocalFileSystemFilter::directoryLoaded);
     connect(d->files.get(), &QFileSystemModel::fileRenamed, this,
             &QLocalFileSystemFilter::fileRenamed);
-    // Before this proxy hears of them.
-    const auto forgetTimes = [this] { d->times.clear(); };
-    connect(d->files.get(), &QAbstractItemModel::dataChanged, this, forgetTimes);
-    connect(d->files.get(), &QAbstractItemModel::rowsAboutToBeRemoved, this, forgetTimes);
-    connect(d->files.get(), &QAbstractItemModel::rowsRemoved, this, forgetTimes);
-    connect(d->files.get(), &QAbstractItemModel::modelAboutToBeReset, this, forgetTimes);
     setSourceModel(d->files.get());
     setSortRole(Qt::DisplayRole);
     setSortCaseSensitivity(Qt::CaseSensitive);
@@ -256,7 +235,7 @@ QModelIndex QLocalFileSystemFilter::setRootPath(const QString &path)
 bool QLocalFileSystemFilter::filterAcceptsRow(int row, const QModelIndex &parent) const
 {
     const QModelIndex index = d->files->index(row, 0, parent);
-    const QString name = d->files->fileName(index);
+    const QString name = d->files->nameOf(index);
     if (d->isDotHidden(name)) {
         return false;
     }
@@ -278,11 +257,19 @@ bool QLocalFileSystemFilter::lessThan(const QModelIndex &left, const QModelIndex
     switch (left.column()) {
     case QvexFileModel::SizeColumn:
         return bytes(left) < bytes(right);
+    case QvexFileModel::NameColumn:
+        return d->files->nameOf(left).compare(d->files->nameOf(right), sortCaseSensitivity()) < 0;
     case QvexFileModel::DateColumn:
-        return d->timeOf(left) < d->timeOf(right);
+        return d->files->timeOf(left) < d->files->timeOf(right);
     default:
         return d->text(left).compare(d->text(right), sortCaseSensitivity()) < 0;
     }
+}
+
+void QLocalFileSystemFilter::sort(int column, Qt::SortOrder order)
+{
+    d->files->setUnsorted(column >= 0);
+    QSortFilterProxyModel::sort(column, order);
 }
 
 QVariant QLocalFileSystemFilter::data(const QModelIndex &index, int role) const

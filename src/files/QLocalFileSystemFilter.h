@@ -64,6 +64,7 @@ public:
      * file can have.
      */
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
     /** An index of this model from the parts that one was made of. */
     QModelIndex rebuiltIndex(int row, int column, void *id) const;
 
