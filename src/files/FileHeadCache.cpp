@@ -1,22 +1,69 @@
 #include "FileHeadCache.h"
 
-#include <QFileInfo>
+namespace {
 
-FileHeadCache::Head FileHeadCache::headOf(const QFileInfo &file)
+/// Beyond that many, those of other folders are forgotten when a folder is read.
+constexpr qsizetype EnoughEntries = 32'768;
+
+} // namespace
+
+FileHeadCache::FileHeadCache()
+    : m_reader([this] {
+        QMetaObject::invokeMethod(this, &FileHeadCache::takeResults, Qt::QueuedConnection);
+    })
 {
-    if (!file.isFile()) {
-        return Head();
+}
+
+FileHeadCache::~FileHeadCache() = default;
+
+void FileHeadCache::readFolder(const QString &folder, const HeadReader::IsWanted &isWanted)
+{
+    if (m_entries.size() > EnoughEntries) {
+        m_entries.clear();
     }
-    const QString path = file.absoluteFilePath();
-    const qint64 size = file.size();
-    const QDateTime time = file.lastModified();
-    if (const Entry *entry = m_entries.object(path);
-        entry && entry->size == size && entry->time == time) {
-        return entry->head;
+    m_asked.clear();
+    m_folder = folder.endsWith(u'/') ? folder : folder + u'/';
+    m_isReading = true;
+    m_reader.readFolder(m_folder, isWanted);
+}
+
+const FileHead *FileHeadCache::headOf(const FileVersion &file)
+{
+    const auto entry = m_entries.constFind(file.path);
+    const FileHead *const known = entry == m_entries.cend() ? nullptr : &entry->head;
+    if (known && entry->file == file) {
+        return known;
     }
-    FileData data;
-    const bool isValid = m_reader.getFileInfo(path, &data);
-    const Head head {isValid, data.AppType, data.AppTech};
-    m_entries.insert(path, new Entry {size, time, head});
-    return head;
+    const bool isReadAhead = !m_folder.isEmpty() && file.path.startsWith(m_folder)
+        && file.path.lastIndexOf(u'/') == m_folder.size() - 1;
+    if (!isReadAhead && !m_asked.contains(file.path)) {
+        m_asked.insert(file.path);
+        m_isReading = true;
+        m_reader.readFile(file);
+    }
+    return known;
+}
+
+void FileHeadCache::rename(const QString &path, const QString &newPath)
+{
+    if (m_entries.contains(path)) {
+        Entry entry = m_entries.take(path);
+        entry.file.path = newPath;
+        m_entries.insert(newPath, entry);
+    }
+}
+
+void FileHeadCache::takeResults()
+{
+    bool isIdle = false;
+    for (HeadReader::Result &result : m_reader.takeResults(&isIdle)) {
+        m_asked.remove(result.file.path);
+        const QString path = result.file.path;
+        m_entries.insert(path, {std::move(result.file), std::move(result.head)});
+    }
+    if (isIdle) {
+        m_isReading = false;
+        m_folder.clear();
+    }
+    Q_EMIT headsRead();
 }

@@ -79,6 +79,14 @@ void LocalFileSystem::sort(int column, Qt::SortOrder order)
     m_sortedFilter = filter();
 }
 
+void LocalFileSystem::fetchMore(const QModelIndex &parent)
+{
+    if (canFetchMore(parent)) {
+        Q_EMIT fetching(filePath(parent));
+    }
+    QFileSystemModel::fetchMore(parent);
+}
+
 LocalFileSystem::Entries &LocalFileSystem::entriesOf(const void *folder) const
 {
     if (!m_entries || m_folder != folder) {

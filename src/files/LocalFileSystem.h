@@ -12,6 +12,8 @@
  */
 class LocalFileSystem : public QFileSystemModel
 {
+    Q_OBJECT
+
 public:
     LocalFileSystem();
 
@@ -29,6 +31,11 @@ public:
     using QFileSystemModel::index;
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+    void fetchMore(const QModelIndex &parent) override;
+
+Q_SIGNALS:
+    /** The entries of a folder are about to be listed, which ends in directoryLoaded(). */
+    void fetching(const QString &path);
 
 private:
     static constexpr qint64 UnknownTime = std::numeric_limits<qint64>::min();

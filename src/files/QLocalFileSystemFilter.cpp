@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QSet>
+#include <QTimer>
 #include <QVector>
 
 #include <algorithm>
@@ -17,6 +19,13 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+/// Whether the suffix of @p name is one of @p suffixes.
+bool hasSuffix(const QString &name, const QStringList &suffixes, Qt::CaseSensitivity sensitivity)
+{
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot >= 0 && suffixes.contains(QStringView(name).sliced(dot + 1), sensitivity);
+}
 
 bool isSpecialFolder(const QString &name)
 {
@@ -39,7 +48,6 @@ bool isFreeName(const QString &folder, const QString &name)
 struct QLocalFileSystemFilter::Private
 {
     bool isNameListed(const QString &name) const;
-    bool isHeadLookedAt(const QString &name) const;
     bool isHeadListed(const QFileInfo &file);
     bool isDotHidden(const QString &name) const;
     bool leadsToRoot(const QString &folder) const;
@@ -57,6 +65,12 @@ struct QLocalFileSystemFilter::Private
     QString appType;
     QString appTech;
     FileHeadCache heads;
+    int sortColumn = -1;
+    Qt::SortOrder sortOrder = Qt::AscendingOrder;
+    QSet<QString> known; ///< folders that were listed once
+    QString opening; ///< the root that is being listed for the first time, unsorted meanwhile
+    QStringList loaded; ///< folders that were listed, of which nobody was told yet
+    QTimer settling;
     bool showsSpecialFolders = false;
 };
 
@@ -84,17 +98,16 @@ bool QLocalFileSystemFilter::Private::isNameListed(const QString &name) const
                [&](const QRegularExpression &pattern) { return pattern.match(name).hasMatch(); });
 }
 
-bool QLocalFileSystemFilter::Private::isHeadLookedAt(const QString &name) const
-{
-    const qsizetype dot = name.lastIndexOf(u'.');
-    return dot >= 0 && fileTypes.contains(QStringView(name).sliced(dot + 1), caseSensitivity());
-}
-
+/// Without reading it, which another thread does: until then the file is not listed.
 bool QLocalFileSystemFilter::Private::isHeadListed(const QFileInfo &file)
 {
-    const FileHeadCache::Head head = heads.headOf(file);
-    return head.isValid && (appType.isEmpty() || head.appType == appType)
-        && (appTech.isEmpty() || head.appTech == appTech);
+    if (!file.isFile()) {
+        return false;
+    }
+    const FileHead *head =
+        heads.headOf({file.filePath(), file.size(), file.lastModified().toMSecsSinceEpoch()});
+    return head && head->isValid && (appType.isEmpty() || head->appType == appType)
+        && (appTech.isEmpty() || head->appTech == appTech);
 }
 
 bool QLocalFileSystemFilter::Private::isDotHidden(const QString &name) const
@@ -138,10 +151,7 @@ QLocalFileSystemFilter::QLocalFileSystemFilter(bool readOnly, QObject *parent)
     d->files->setNameFilterDisables(true);
     d->files->setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
     d->files->setIconProvider(&d->icons);
-    connect(d->files.get(), &QFileSystemModel::directoryLoaded, this,
-            &QLocalFileSystemFilter::directoryLoaded);
-    connect(d->files.get(), &QFileSystemModel::fileRenamed, this,
-            &QLocalFileSystemFilter::fileRenamed);
+    followListing();
     setSourceModel(d->files.get());
     setSortRole(Qt::DisplayRole);
     setSortCaseSensitivity(Qt::CaseSensitive);
@@ -152,6 +162,70 @@ QLocalFileSystemFilter::QLocalFileSystemFilter(bool readOnly, QObject *parent)
 QLocalFileSystemFilter::~QLocalFileSystemFilter()
 {
     setSourceModel(nullptr);
+}
+
+void QLocalFileSystemFilter::followListing()
+{
+    const LocalFileSystem *files = d->files.get();
+    connect(files, &LocalFileSystem::fetching, this, &QLocalFileSystemFilter::startListing);
+    connect(files, &QFileSystemModel::directoryLoaded, this, [this](const QString &path) {
+        d->loaded.append(path);
+        d->settling.start();
+    });
+    connect(files, &QFileSystemModel::fileRenamed, this,
+            [this](const QString &path, const QString &oldName, const QString &newName) {
+                d->heads.rename(path + u'/' + oldName, path + u'/' + newName);
+                Q_EMIT fileRenamed(path, oldName, newName);
+            });
+    connect(&d->heads, &FileHeadCache::headsRead, this, [this] {
+        invalidateRowsFilter();
+        d->settling.start();
+    });
+    // In a turn of the event loop of its own: the rows have just taken one.
+    d->settling.setSingleShot(true);
+    connect(&d->settling, &QTimer::timeout, this, &QLocalFileSystemFilter::settle);
+}
+
+/**
+ * Rows that come into sorted ones are put between them one by one, which takes a time that grows
+ * with the square of their number. They are sorted once, instead, when all are there.
+ */
+void QLocalFileSystemFilter::startListing(const QString &path)
+{
+    if (path.isEmpty() || path != d->files->rootPath() || d->known.contains(path)) {
+        return;
+    }
+    d->opening = path;
+    QSortFilterProxyModel::sort(-1);
+    if (!d->fileTypes.isEmpty()) {
+        const auto isWanted = [types = d->fileTypes,
+                               sensitivity = d->caseSensitivity()](const QString &name) {
+            return hasSuffix(name, types, sensitivity);
+        };
+        d->heads.readFolder(path, isWanted);
+    }
+}
+
+void QLocalFileSystemFilter::settle()
+{
+    if (d->heads.isReading()) {
+        return;
+    }
+    const QStringList loaded = std::exchange(d->loaded, {});
+    if (loaded.contains(d->opening)) {
+        endOpening();
+    }
+    for (const QString &path : loaded) {
+        d->known.insert(path);
+        Q_EMIT directoryLoaded(path);
+    }
+}
+
+void QLocalFileSystemFilter::endOpening()
+{
+    if (!std::exchange(d->opening, {}).isEmpty()) {
+        QSortFilterProxyModel::sort(d->sortColumn, d->sortOrder);
+    }
 }
 
 QFileSystemModel *QLocalFileSystemFilter::fileSystem() const
@@ -224,6 +298,9 @@ QModelIndex QLocalFileSystemFilter::setRootPath(const QString &path)
 {
     const bool wasInSpecialFolder = d->files->rootPath().contains("/Logs"_L1)
         || d->files->rootPath().contains("/Properties"_L1);
+    if (path != d->files->rootPath()) {
+        endOpening();
+    }
     d->files->setRootPath(path);
     const bool isInSpecialFolder = path.contains("/Logs"_L1) || path.contains("/Properties"_L1);
     if (!d->showsSpecialFolders && (wasInSpecialFolder || isInSpecialFolder)) {
@@ -246,7 +323,8 @@ bool QLocalFileSystemFilter::filterAcceptsRow(int row, const QModelIndex &parent
     if (!d->isNameListed(name)) {
         return false;
     }
-    return !d->isHeadLookedAt(name) || d->isHeadListed(d->files->fileInfo(index));
+    return !hasSuffix(name, d->fileTypes, d->caseSensitivity())
+        || d->isHeadListed(d->files->fileInfo(index));
 }
 
 bool QLocalFileSystemFilter::lessThan(const QModelIndex &left, const QModelIndex &right) const
@@ -268,8 +346,12 @@ bool QLocalFileSystemFilter::lessThan(const QModelIndex &left, const QModelIndex
 
 void QLocalFileSystemFilter::sort(int column, Qt::SortOrder order)
 {
+    d->sortColumn = column;
+    d->sortOrder = order;
     d->files->setUnsorted(column >= 0);
-    QSortFilterProxyModel::sort(column, order);
+    if (d->opening.isEmpty()) {
+        QSortFilterProxyModel::sort(column, order);
+    }
 }
 
 QVariant QLocalFileSystemFilter::data(const QModelIndex &index, int role) const

@@ -17,15 +17,17 @@ class QFileSystemModel;
  * "Logs" or "Properties", in just these letters, whether special folders are shown; for a file the
  * name filters, and, when its suffix is one of the file types of setVexFilters(), its XML head (see
  * XmlFileHeader): it must be valid and match setHeadFilter(). Heads are read once for each version
- * of a file, known by its size and time, and of regular files only. The folders that lead to the
- * source model's root path are listed whatever their names.
+ * of a file, known by its size and time, and of regular files only, on a thread of their own: a
+ * file is listed when its head is known, one that has changed goes by the old head until then. The
+ * folders that lead to the source model's root path are listed whatever their names.
  *
  * Names and suffixes are matched in any case of letters, unless setFilter() has
  * QDir::CaseSensitive.
  *
  * Columns, texts and roles are those of QvexFileModel. Sorted by Size it goes by the bytes, folders
  * first, by Date Modified by the time, else by the texts. Unsorted it has the order of its source:
- * folders first, then by name as a person would.
+ * folders first, then by name as a person would. A root that is opened for the first time is sorted
+ * when all of its rows are there.
  */
 class VEX_EXPORT QLocalFileSystemFilter : public QSortFilterProxyModel
 {
@@ -69,7 +71,7 @@ public:
     QModelIndex rebuiltIndex(int row, int column, void *id) const;
 
 Q_SIGNALS:
-    /** As in QFileSystemModel; rows may still change places afterwards. */
+    /** As in QFileSystemModel, when all heads are known and the rows are sorted. */
     void directoryLoaded(const QString &path);
     void fileRenamed(const QString &path, const QString &oldName, const QString &newName);
 
@@ -78,6 +80,11 @@ protected:
     bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
 
 private:
+    void followListing();
+    void startListing(const QString &path);
+    void settle();
+    void endOpening();
+
     struct Private;
     const std::unique_ptr<Private> d;
 };

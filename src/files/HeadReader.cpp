@@ -1,0 +1,155 @@
+#include "HeadReader.h"
+
+#include <QFile>
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <memory>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// How often rows are shown of a folder that takes long. Each time all of them are looked at.
+constexpr auto Interval = 500ms;
+
+struct CloseFolder
+{
+    void operator()(DIR *folder) const { ::closedir(folder); }
+};
+
+/// @return whether it is a regular file.
+bool lookUp(FileVersion &file)
+{
+    struct stat status;
+    if (::stat(QFile::encodeName(file.path).constData(), &status) != 0
+        || !S_ISREG(status.st_mode)) {
+        return false;
+    }
+    file.size = status.st_size;
+    file.time = qint64(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1'000'000;
+    return true;
+}
+
+} // namespace
+
+HeadReader::HeadReader(std::function<void()> notify)
+    : m_notify(std::move(notify))
+{
+}
+
+HeadReader::~HeadReader()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ends = true;
+        m_isLeft = true;
+        m_jobs.clear();
+    }
+    m_hasJobs.notify_one();
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
+}
+
+void HeadReader::readFolder(const QString &folder, const IsWanted &isWanted)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_jobs.clear();
+        m_isLeft = true;
+    }
+    add({{folder, 0, 0}, isWanted});
+}
+
+void HeadReader::readFile(const FileVersion &file)
+{
+    add({file, nullptr});
+}
+
+void HeadReader::add(Job job)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_jobs.push_back(std::move(job));
+    }
+    m_hasJobs.notify_one();
+    if (!m_thread.joinable()) {
+        m_thread = std::thread([this] { run(); });
+    }
+}
+
+std::vector<HeadReader::Result> HeadReader::takeResults(bool *isIdle)
+{
+    const std::lock_guard lock(m_mutex);
+    *isIdle = !m_isAtWork && m_jobs.empty();
+    return std::exchange(m_results, {});
+}
+
+void HeadReader::run()
+{
+    std::unique_lock lock(m_mutex);
+    while (true) {
+        m_hasJobs.wait(lock, [this] { return m_ends || !m_jobs.empty(); });
+        if (m_ends) {
+            return;
+        }
+        const Job job = std::move(m_jobs.front());
+        m_jobs.pop_front();
+        m_isAtWork = true;
+        m_isLeft = false;
+        lock.unlock();
+        read(job);
+        lock.lock();
+        m_isAtWork = false;
+        if (m_jobs.empty() && !m_ends) {
+            lock.unlock();
+            m_notify();
+            lock.lock();
+        }
+    }
+}
+
+void HeadReader::read(const Job &job)
+{
+    if (job.isWanted) {
+        readFilesOf(job.file.path, job.isWanted);
+    } else {
+        readHead(job.file);
+    }
+}
+
+void HeadReader::readFilesOf(const QString &folder, const IsWanted &isWanted)
+{
+    const std::unique_ptr<DIR, CloseFolder> entries(
+        ::opendir(QFile::encodeName(folder).constData()));
+    auto last = std::chrono::steady_clock::now();
+    while (const dirent *entry = entries && !isLeft() ? ::readdir(entries.get()) : nullptr) {
+        const QString name = QFile::decodeName(entry->d_name);
+        FileVersion file {folder + name, 0, 0};
+        if (!isWanted(name) || !lookUp(file)) {
+            continue;
+        }
+        readHead(file);
+        if (const auto now = std::chrono::steady_clock::now(); now - last > Interval) {
+            last = now;
+            m_notify();
+        }
+    }
+}
+
+void HeadReader::readHead(const FileVersion &file)
+{
+    FileData data;
+    const bool isValid = m_header.getFileInfo(file.path, &data);
+    const std::lock_guard lock(m_mutex);
+    m_results.push_back({file, {isValid, data.AppType, data.AppTech}});
+}
+
+bool HeadReader::isLeft()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_isLeft;
+}
