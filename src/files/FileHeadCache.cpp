@@ -1,5 +1,7 @@
 #include "FileHeadCache.h"
 
+#include <QFileInfo>
+
 namespace {
 
 /// Beyond that many, those of other folders are forgotten when a folder is read.
@@ -27,17 +29,23 @@ void FileHeadCache::readFolder(const QString &folder, const HeadReader::IsWanted
     m_reader.readFolder(m_folder, isWanted);
 }
 
-const FileHead *FileHeadCache::headOf(const FileVersion &file)
+bool FileHeadCache::isReadAhead(const QString &path) const
 {
-    const auto entry = m_entries.constFind(file.path);
+    return !m_folder.isEmpty() && path.startsWith(m_folder)
+        && path.lastIndexOf(u'/') == m_folder.size() - 1;
+}
+
+const FileHead *FileHeadCache::headOf(const QFileInfo &info)
+{
+    const QString path = info.filePath();
+    const auto entry = m_entries.constFind(path);
     const FileHead *const known = entry == m_entries.cend() ? nullptr : &entry->head;
-    if (known && entry->file == file) {
-        return known;
+    if (!known && isReadAhead(path)) {
+        return nullptr; // without the time, which costs more than all the rest
     }
-    const bool isReadAhead = !m_folder.isEmpty() && file.path.startsWith(m_folder)
-        && file.path.lastIndexOf(u'/') == m_folder.size() - 1;
-    if (!isReadAhead && !m_asked.contains(file.path)) {
-        m_asked.insert(file.path);
+    const FileVersion file {path, info.size(), info.lastModified().toMSecsSinceEpoch()};
+    if (!(known && entry->file == file) && !isReadAhead(path) && !m_asked.contains(path)) {
+        m_asked.insert(path);
         m_isReading = true;
         m_reader.readFile(file);
     }

@@ -6,6 +6,8 @@
 
 #include "HeadReader.h"
 
+class QFileInfo;
+
 /**
  * What the heads of files tell, each read once for as long as its file stays as it is, and never on
  * the thread that asks.
@@ -28,7 +30,7 @@ public:
      * The head of a regular file; null while it isn't known, which headsRead() ends. While the head
      * of a file that has changed is read again the old one stands for it.
      */
-    const FileHead *headOf(const FileVersion &file);
+    const FileHead *headOf(const QFileInfo &file);
     /** The file keeps its head under a new name. */
     void rename(const QString &path, const QString &newPath);
 
@@ -46,6 +48,7 @@ private:
         FileHead head;
     };
 
+    bool isReadAhead(const QString &path) const;
     void takeResults();
 
     QHash<QString, Entry> m_entries; ///< by path

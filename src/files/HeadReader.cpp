@@ -2,11 +2,13 @@
 
 #include <QFile>
 
-#include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <chrono>
 #include <memory>
+
+#include "FileDescriptor.h"
 
 using namespace std::chrono_literals;
 
@@ -20,12 +22,22 @@ struct CloseFolder
     void operator()(DIR *folder) const { ::closedir(folder); }
 };
 
-/// @return whether it is a regular file.
-bool lookUp(FileVersion &file)
+/// Opens regular files only: opening something else may do anything.
+FileDescriptor openEntry(DIR *folder, const dirent &entry)
 {
     struct stat status;
-    if (::stat(QFile::encodeName(file.path).constData(), &status) != 0
-        || !S_ISREG(status.st_mode)) {
+    const bool isRegular = entry.d_type == DT_REG
+        || (::fstatat(::dirfd(folder), entry.d_name, &status, 0) == 0 && S_ISREG(status.st_mode));
+    return FileDescriptor(isRegular ? ::openat(::dirfd(folder), entry.d_name,
+                                               O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)
+                                    : -1);
+}
+
+/// @return whether it is a regular file.
+bool lookUp(int fd, FileVersion &file)
+{
+    struct stat status;
+    if (::fstat(fd, &status) != 0 || !S_ISREG(status.st_mode)) {
         return false;
     }
     file.size = status.st_size;
@@ -117,7 +129,9 @@ void HeadReader::read(const Job &job)
     if (job.isWanted) {
         readFilesOf(job.file.path, job.isWanted);
     } else {
-        readHead(job.file);
+        FileData data;
+        const bool isValid = m_header.getFileInfo(job.file.path, &data);
+        keep({job.file, {isValid, data.AppType, data.AppTech}});
     }
 }
 
@@ -128,11 +142,9 @@ void HeadReader::readFilesOf(const QString &folder, const IsWanted &isWanted)
     auto last = std::chrono::steady_clock::now();
     while (const dirent *entry = entries && !isLeft() ? ::readdir(entries.get()) : nullptr) {
         const QString name = QFile::decodeName(entry->d_name);
-        FileVersion file {folder + name, 0, 0};
-        if (!isWanted(name) || !lookUp(file)) {
-            continue;
+        if (isWanted(name)) {
+            readEntry(entries.get(), *entry, {folder + name, 0, 0});
         }
-        readHead(file);
         if (const auto now = std::chrono::steady_clock::now(); now - last > Interval) {
             last = now;
             m_notify();
@@ -140,12 +152,21 @@ void HeadReader::readFilesOf(const QString &folder, const IsWanted &isWanted)
     }
 }
 
-void HeadReader::readHead(const FileVersion &file)
+/// What can't be opened is left to readFile().
+void HeadReader::readEntry(DIR *folder, const dirent &entry, FileVersion file)
 {
+    const FileDescriptor fd = openEntry(folder, entry);
     FileData data;
-    const bool isValid = m_header.getFileInfo(file.path, &data);
+    if (fd && lookUp(fd.get(), file)) {
+        const bool isValid = m_header.getFileInfo(fd.get(), &data);
+        keep({std::move(file), {isValid, data.AppType, data.AppTech}});
+    }
+}
+
+void HeadReader::keep(Result result)
+{
     const std::lock_guard lock(m_mutex);
-    m_results.push_back({file, {isValid, data.AppType, data.AppTech}});
+    m_results.push_back(std::move(result));
 }
 
 bool HeadReader::isLeft()

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <dirent.h>
+
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -72,7 +74,8 @@ private:
     void run();
     void read(const Job &job);
     void readFilesOf(const QString &folder, const IsWanted &isWanted);
-    void readHead(const FileVersion &file);
+    void readEntry(DIR *folder, const dirent &entry, FileVersion file);
+    void keep(Result result);
     bool isLeft();
 
     const std::function<void()> m_notify;

@@ -104,8 +104,7 @@ bool QLocalFileSystemFilter::Private::isHeadListed(const QFileInfo &file)
     if (!file.isFile()) {
         return false;
     }
-    const FileHead *head =
-        heads.headOf({file.filePath(), file.size(), file.lastModified().toMSecsSinceEpoch()});
+    const FileHead *head = heads.headOf(file);
     return head && head->isValid && (appType.isEmpty() || head->appType == appType)
         && (appTech.isEmpty() || head->appTech == appTech);
 }

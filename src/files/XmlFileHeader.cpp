@@ -118,11 +118,13 @@ bool XmlFileHeader::getFileInfo(QFile *file, FileData *data)
 bool XmlFileHeader::getFileInfo(const QString &path, FileData *data)
 {
     const FileDescriptor fd = openRegularFile(path);
-    if (!fd) {
-        return false;
-    }
+    return fd && getFileInfo(fd.get(), data);
+}
+
+bool XmlFileHeader::getFileInfo(int fd, FileData *data)
+{
     Prefix prefix;
-    const qsizetype size = readAtMost(fd.get(), prefix.data(), prefix.size());
+    const qsizetype size = readAtMost(fd, prefix.data(), prefix.size());
     if (size <= 0) {
         return false;
     }

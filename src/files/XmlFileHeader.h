@@ -38,6 +38,9 @@ public:
     bool getFileInfo(QFile *file, FileData *data);
     /** Likewise with a single read from the disk, for looking through many files. */
     bool getFileInfo(const QString &path, FileData *data);
+    /** Likewise of an open file that is known to be regular, read from where it is; it stays open.
+     */
+    bool getFileInfo(int fd, FileData *data);
 
 private:
     bool parse(const QByteArray &head, FileData *data);
