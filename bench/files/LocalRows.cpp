@@ -47,10 +47,12 @@ double sortLocalModel(const Folders &folders)
     return secondsOf([&] { sortFolder(model, folders); });
 }
 
-double standStillOfSorting(const Folders &folders)
+using Sorting = double (*)(const Folders &);
+
+double standStillOf(Sorting sorting, const Folders &folders)
 {
     const StandStill standStill;
-    sortLocalModel(folders);
+    sorting(folders);
     return standStill.longestMs();
 }
 
@@ -101,8 +103,21 @@ void addSorting(Suite &suite, const Folders &folders)
                        Demand::timeAtMost(1.2),
                        {}}};
     suite.add(sorting);
-    suite.add({u"stand-still meanwhile"_s, u"ms"_s, 250,
-               [&] { return standStillOfSorting(folders); }, 5});
+    suite.add({u"stand-still while a local folder is sorted"_s, u"ms"_s, 250,
+               [&] { return standStillOf(sortLocalModel, folders); }, 5});
+
+    Comparison standStill;
+    standStill.name = u"stand-still while a local folder is sorted, beside"_s;
+    standStill.work = {1, u"ms"_s, Milli};
+    standStill.subject = {u"QvexLocalFileModel"_s,
+                          [&] { return standStillOf(sortLocalModel, folders) * Milli; },
+                          {},
+                          {}};
+    standStill.rivals = {{u"QFileSystemModel, no icons"_s,
+                          [&] { return standStillOf(sortPlainModel, folders) * Milli; },
+                          Demand::timeAtMost(1),
+                          {}}};
+    suite.add(standStill);
 }
 
 void addHeads(Suite &suite, const Folders &folders)

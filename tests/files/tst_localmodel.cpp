@@ -99,6 +99,8 @@ private Q_SLOTS:
     void listedAreThoseThatPassEachFilter();
     void textsAndRoles();
     void headIsReadAgainWhenTheFileChanges();
+    void renamedFileKeepsItsHead();
+    void folderIsLoadedWhenItsRowsAreKnownAndSorted();
     void followsTheDisk();
     void refreshTellsOfAFileThatGrew();
     void newFoldersAreNamedWithoutNumbers();
@@ -221,6 +223,47 @@ void LocalModelTest::headIsReadAgainWhenTheFileChanges()
     writeFile(path(u"other.xml"_s), head("Bert", "NRZ"));
     browser.model.refreshDirectory(browser.root());
     QTRY_VERIFY(browser.names().contains(u"other.xml"_s));
+}
+
+void LocalModelTest::renamedFileKeepsItsHead()
+{
+    Browser browser(m_folder->path());
+    browser.model.setVexFilters({}, {u"xml"_s});
+    QTRY_VERIFY(browser.names().contains(u"bert.xml"_s));
+    const QPersistentModelIndex file = browser.model.fileIndex(path(u"bert.xml"_s));
+    QVERIFY(browser.model.setData(file, u"ernie.xml"_s));
+    QVERIFY(file.isValid());
+    QCOMPARE(file.data().toString(), u"ernie.xml"_s);
+}
+
+void LocalModelTest::folderIsLoadedWhenItsRowsAreKnownAndSorted()
+{
+    QStringList expected;
+    for (int i = 499; i >= 0; --i) {
+        const QString name = u"%1.xml"_s.arg(i, 3, 10, QLatin1Char('0'));
+        writeFile(path(u"many/"_s + name), head(i % 2 == 0 ? "Bert" : "Scope", "PAM4"));
+        if (i % 2 == 0) {
+            expected.append(name);
+        }
+    }
+    QvexLocalFileModel model;
+    model.setVexFilters({}, {u"xml"_s});
+    model.setHeadFilter(u"Bert"_s, QString());
+    QStringList found;
+    connect(&model, &QvexFileModel::directoryLoaded, this, [&](const QString &folder) {
+        const QModelIndex root = model.fileIndex(folder);
+        for (int row = 0; row < model.rowCount(root); ++row) {
+            found.append(model.index(row, 0, root).data().toString());
+        }
+    });
+    model.setRootPath(path(u"many"_s));
+    model.sort(0, Qt::DescendingOrder);
+    QTRY_VERIFY(!found.isEmpty());
+    QCOMPARE(found, expected);
+
+    QvexLocalFileModel goneWhileItReads;
+    goneWhileItReads.setVexFilters({}, {u"xml"_s});
+    goneWhileItReads.setRootPath(path(u"many"_s));
 }
 
 void LocalModelTest::followsTheDisk()
