@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <memory>
+#include <utility>
 
 #include "FileDescriptor.h"
 

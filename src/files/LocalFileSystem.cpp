@@ -3,6 +3,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <utility>
 
 LocalFileSystem::LocalFileSystem()
     : m_sortedFilter(filter())

@@ -2,6 +2,7 @@
 
 #include <QFileSystemModel>
 
+#include <limits>
 #include <unordered_map>
 #include <vector>
 
