@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTimer>
@@ -214,9 +215,13 @@ void QLocalFileSystemFilter::settle()
     if (loaded.contains(d->opening)) {
         endOpening();
     }
+    d->known.unite({loaded.begin(), loaded.end()});
+    const QPointer<QLocalFileSystemFilter> self(this);
     for (const QString &path : loaded) {
-        d->known.insert(path);
         Q_EMIT directoryLoaded(path);
+        if (!self) {
+            return; // a slot has taken it away
+        }
     }
 }
 
