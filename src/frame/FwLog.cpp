@@ -4,7 +4,9 @@
 #include <QMap>
 
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <pthread.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -19,22 +21,30 @@ namespace {
 constexpr qsizetype longestText = 8192; ///< in characters
 constexpr int fatalFlushMs = 1000;
 
-QByteArray makeThreadName()
+struct ThreadName
 {
-    const long number = syscall(SYS_gettid);
-    if (number == getpid()) {
-        return "main";
+    ThreadName()
+    {
+        const long number = syscall(SYS_gettid);
+        if (number == getpid()) {
+            std::strcpy(text, "main");
+        } else {
+            pthread_getname_np(pthread_self(), text, sizeof text);
+            const size_t length = std::strlen(text);
+            std::snprintf(text + length, sizeof text - length, ":%ld", number);
+        }
     }
-    char name[16] = {};
-    pthread_getname_np(pthread_self(), name, sizeof name);
-    return QByteArray(name) + ':' + QByteArray::number(qint64(number));
-}
 
-const QByteArray &threadName()
+    char text[40] = {};
+};
+static_assert(std::is_trivially_destructible_v<ThreadName>,
+              "what is destroyed after it, at the thread's end, may log, too");
+
+QByteArrayView threadName()
 {
     // Asked for once: a name that is set later is not seen.
-    static thread_local const QByteArray name = makeThreadName();
-    return name;
+    static thread_local const ThreadName name;
+    return name.text;
 }
 
 QByteArray bytesOf(const QString &text)
@@ -76,6 +86,8 @@ public:
 
     void take(QtMsgType level, const QMessageLogContext &context, const QString &text);
     void applyRules();
+    /// A child of fork() has the ring in common with its parent, but no lock for both.
+    bool isForked() const { return process != 0 && process != getpid(); }
 
     LogQueue queue;
     LogHistory history;
@@ -83,6 +95,7 @@ public:
     std::unique_ptr<LogWriter> writer;
     std::atomic<QtMessageHandler> previous = nullptr;
     std::atomic<bool> callsPrevious = false;
+    std::atomic<pid_t> process = 0; ///< that has started the log; 0 for none
 
     mutable std::mutex mutex; ///< for what follows
     QString filePath;
@@ -104,7 +117,7 @@ void FwLog::Private::handle(QtMsgType level, const QMessageLogContext &context, 
 void FwLog::Private::take(QtMsgType level, const QMessageLogContext &context, const QString &text)
 {
     const char *category = context.category ? context.category : "default";
-    const bool taken = queue.append(level, category, threadName(), bytesOf(text));
+    const bool taken = !isForked() && queue.append(level, category, threadName(), bytesOf(text));
     if (taken && level == QtFatalMsg) {
         queue.flush(fatalFlushMs);
     }
@@ -141,7 +154,7 @@ FwLog::~FwLog() = default;
 
 bool FwLog::start(const Options &wanted)
 {
-    if (isRunning()) {
+    if (d->isForked() || isRunning()) {
         return false;
     }
     const Options options = bounded(wanted);
@@ -151,6 +164,7 @@ bool FwLog::start(const Options &wanted)
     d->writer = std::make_unique<LogWriter>(
         d->queue, d->history, d->slot->makeFile(d->slot->path()), options.standardError);
     d->callsPrevious = options.callPreviousHandler;
+    d->process = getpid();
     {
         const std::lock_guard lock(d->mutex);
         d->filePath = d->slot->path();
@@ -166,7 +180,7 @@ bool FwLog::start(const Options &wanted)
 
 void FwLog::stop()
 {
-    if (!isRunning()) {
+    if (d->isForked() || !isRunning()) {
         return;
     }
     const QtMessageHandler onTop = qInstallMessageHandler(d->previous);
@@ -178,6 +192,7 @@ void FwLog::stop()
     d->queue.release();
     d->slot->close();
     d->slot.reset();
+    d->process = 0;
     const std::lock_guard lock(d->mutex);
     d->filePath.clear();
     d->running = false;
@@ -211,7 +226,7 @@ void FwLog::setRules(const QString &rules)
 
 bool FwLog::flush(int timeoutMs)
 {
-    return d->queue.flush(timeoutMs);
+    return d->isForked() || d->queue.flush(timeoutMs);
 }
 
 QVector<FwLogLine> FwLog::lines(quint64 after) const

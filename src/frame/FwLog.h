@@ -25,6 +25,9 @@
  * Two processes that are given the same file each get one of their own: the first has
  * "NAME.log", the next ones "NAME.2.log" to "NAME.9.log"; filePath() says which.
  *
+ * A child of fork() has no log until it executes a program: what it says goes to the message
+ * handler that was there before start().
+ *
  * All functions are thread-safe, but start() and stop() are for one thread at a time. Logging from
  * a signal handler is not possible.
  */
@@ -59,7 +62,7 @@ public:
 
     /**
      * Takes over Qt's message handler and carries over what crashed processes have left behind.
-     * False, and nothing happens, while the log runs.
+     * False, and nothing happens, while the log runs and in a child of fork().
      *
      * A file that can't be written (a read-only directory, a full disk) is no failure: the log goes
      * on without it, says so once in the other destinations, and tries again every few seconds.

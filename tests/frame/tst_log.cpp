@@ -11,6 +11,7 @@
 #include <functional>
 #include <numeric>
 #include <sys/mount.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <frame/FwLog.h>
@@ -87,6 +88,15 @@ int child(const QString &path, const QString &end)
         abort();
     } else if (end == "fatal"_L1) {
         qFatal("line %d", childLines);
+    } else if (end == "fork"_L1) {
+        if (fork() == 0) {
+            qCWarning(lcOne) << "line" << -1;
+            exit(0);
+        }
+        wait(nullptr);
+        raise(SIGKILL);
+    } else if (end == "exit"_L1) {
+        static const auto destroyed = qScopeGuard([] { qCWarning(lcOne) << "line" << childLines; });
     }
     return 0;
 }
@@ -204,10 +214,12 @@ void tst_log::afterACrashNothingIsMissing_data()
     QTest::addColumn<QString>("end");
     QTest::addColumn<int>("expected");
     QTest::addColumn<QByteArray>("journals");
-    for (const char *end : {"kill", "abort", "exit"}) {
+    for (const char *end : {"kill", "abort", "fork"}) {
         QTest::newRow(end) << QString::fromLatin1(end) << childLines << QByteArray();
     }
-    QTest::newRow("fatal") << u"fatal"_s << childLines + 1 << QByteArray();
+    for (const char *end : {"fatal", "exit"}) {
+        QTest::newRow(end) << QString::fromLatin1(end) << childLines + 1 << QByteArray();
+    }
     QTest::newRow("journal in memory") << u"kill"_s << childLines << QByteArray("/dev/shm");
 }
 
