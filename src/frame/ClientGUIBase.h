@@ -45,8 +45,7 @@ struct MeasurementInfo;
  * @endcode
  *
  * For the GUI thread only. Widgets that are registered belong to the frame from then on. Logging
- * category: "vex.frame", with the frame's beginning and end as information, which is off by
- * default.
+ * category: "vex.frame", with the frame's beginning and end as information.
  */
 class VEX_EXPORT ClientGUIBase : public QWidget
 {
