@@ -11,6 +11,7 @@
 
 #include <cmath>
 #include <deque>
+#include <utility>
 
 #include "PanelButton.h"
 #include <dialogs/DialogTheme.h>
@@ -42,6 +43,7 @@ struct SlidePanel::Private : public QObject
     bool press(const QMouseEvent &event, bool isGround);
     bool move(const QMouseEvent &event);
     bool release(QObject *watched);
+    void cancelPull();
 
     /// How far the finger has come towards the inside since it was put down.
     qreal wayOf(const QMouseEvent &event) const;
@@ -100,6 +102,9 @@ bool SlidePanel::Private::eventFilter(QObject *watched, QEvent *event)
         return move(*static_cast<QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
         return release(watched);
+    case QEvent::Hide:
+        cancelPull();
+        return false;
     default:
         return false;
     }
@@ -111,6 +116,7 @@ bool SlidePanel::Private::press(const QMouseEvent &event, bool isGround)
     if (event.button() == Qt::LeftButton) {
         isPressed = true;
         pressedAt = event.globalPosition();
+        pressedFraction = fraction;
         samples.clear();
     }
     return isGround;
@@ -146,6 +152,15 @@ bool SlidePanel::Private::release(QObject *watched)
     }
     slideTo(wouldGoIn());
     return true;
+}
+
+/// What is hidden under the finger never hears of its release: the panel is back where it was.
+void SlidePanel::Private::cancelPull()
+{
+    isPressed = false;
+    if (std::exchange(isPulled, false)) {
+        end();
+    }
 }
 
 qreal SlidePanel::Private::wayOf(const QMouseEvent &event) const
@@ -267,6 +282,7 @@ SlidePanel::SlidePanel(Side side, QWidget *parent)
 
 SlidePanel::~SlidePanel()
 {
+    d->isPulled = false;
     delete d->grip.data();
 }
 

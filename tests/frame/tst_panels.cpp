@@ -111,6 +111,7 @@ private Q_SLOTS:
     void miniPanelsAreOrderedAndMakeRoom();
     void miniPanelsShutOthersForRoom();
     void miniPanelGoesWithItsContents();
+    void hiddenUnderTheFingerGoesBack();
     void everyButtonIsLargeAndNamed();
     void splashMarksErrorsAndShowsTheLast();
 };
@@ -440,6 +441,24 @@ void tst_panels::miniPanelGoesWithItsContents()
     contents.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(frame.miniButtons().size(), 0);
+}
+
+void tst_panels::hiddenUnderTheFingerGoesBack()
+{
+    Frame frame;
+    QLabel contents;
+    frame.mini.registerWidget(&contents, 200, 100, 0);
+    frame.setDuration(0);
+    const QPoint from = frame.miniButtons().first()->geometry().center();
+    frame.finger.press(from);
+    frame.finger.moveTo(from - QPoint(50, 0));
+    frame.finger.moveTo(from - QPoint(150, 0));
+    QVERIFY(contents.isVisible());
+    frame.mini.hide();
+    frame.finger.lift();
+    frame.mini.show();
+    QVERIFY(!contents.isVisible());
+    QCOMPARE(frame.miniButtons().first()->geometry().center(), from);
 }
 
 void tst_panels::everyButtonIsLargeAndNamed()
