@@ -1,7 +1,11 @@
 #include "HelpBrowser.h"
 
-#include <QCoreApplication>
+#include <QEvent>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QScrollBar>
+
+#include <utility>
 
 #include "FingerScroll.h"
 
@@ -32,9 +36,24 @@ bool canBeRead(const QString &name)
 
 HelpBrowser::HelpBrowser(QWidget *parent)
     : QTextBrowser(parent)
+    , m_linkColor(QGuiApplication::palette().color(QPalette::Link))
 {
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     new FingerScroll(this);
+}
+
+/// A page has its links coloured while it is read.
+void HelpBrowser::changeEvent(QEvent *event)
+{
+    QTextBrowser::changeEvent(event);
+    const QColor color = QGuiApplication::palette().color(QPalette::Link);
+    if (event->type() == QEvent::PaletteChange && std::exchange(m_linkColor, color) != color
+        && !source().isEmpty()) {
+        const QPoint place(horizontalScrollBar()->value(), verticalScrollBar()->value());
+        reload();
+        horizontalScrollBar()->setValue(place.x());
+        verticalScrollBar()->setValue(place.y());
+    }
 }
 
 void HelpBrowser::open(const QString &address)

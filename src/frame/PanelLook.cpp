@@ -5,7 +5,10 @@
 #include <QPolygonF>
 #include <QTransform>
 
+#include "ColorTheme.h"
 #include <dialogs/DialogTheme.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -13,6 +16,7 @@ constexpr qreal ChevronSize = 9;
 constexpr qreal ChevronPen = 4;
 constexpr qreal PlateRadius = 6;
 constexpr qreal FocusPen = 3;
+constexpr double Legible = 4.5;
 
 qreal angleOf(Qt::ArrowType direction)
 {
@@ -34,8 +38,14 @@ namespace PanelLook {
 
 QColor errorInk(const QColor &ground)
 {
-    return DialogTheme::inkOn(ground) == QColor(Qt::white) ? QColor(0xff, 0x9a, 0x90)
-                                                           : QColor(0xa8, 0x1c, 0x14);
+    // The palette of a widget may be another one than the theme's.
+    for (const ColorTheme &theme : {ColorTheme::current(), ColorTheme::dark()}) {
+        const QColor fail = theme.color("fail"_L1);
+        if (ColorTheme::contrast(fail, ground) >= Legible) {
+            return fail;
+        }
+    }
+    return ColorTheme::light().color("fail"_L1);
 }
 
 QFont font(const QFont &base, int pixels, bool bold)

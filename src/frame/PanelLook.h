@@ -12,7 +12,8 @@ class QRect;
 /// What the panels of the frame paint alike, in the colours of the palette.
 namespace PanelLook {
 
-/// Text in red: 4.5:1 on @p ground and better.
+/// Text in the theme's colour of what has failed, or in that of another theme which has 4.5:1 on
+/// @p ground.
 QColor errorInk(const QColor &ground);
 QFont font(const QFont &base, int pixels, bool bold = false);
 

@@ -13,8 +13,11 @@
 #include <deque>
 #include <utility>
 
+#include "ColorTheme.h"
 #include "PanelButton.h"
 #include <dialogs/DialogTheme.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -59,6 +62,7 @@ struct SlidePanel::Private : public QObject
     void setFraction(qreal value);
     void end();
     void move();
+    void takeColors();
 
     SlidePanel *const q;
     const Side side;
@@ -268,6 +272,16 @@ void SlidePanel::Private::move()
     }
 }
 
+void SlidePanel::Private::takeColors()
+{
+    const ColorTheme &theme = ColorTheme::current();
+    QPalette colors;
+    colors.setColor(QPalette::Window, theme.color("panel"_L1));
+    colors.setColor(QPalette::WindowText, theme.color("panelText"_L1));
+    colors.setColor(QPalette::Disabled, QPalette::WindowText, theme.color("disabledText"_L1));
+    q->setPalette(colors);
+}
+
 SlidePanel::SlidePanel(Side side, QWidget *parent)
     : QFrame(parent)
     , d(std::make_unique<Private>(this, side))
@@ -276,6 +290,7 @@ SlidePanel::SlidePanel(Side side, QWidget *parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     d->clock.start();
     d->area = parent->rect();
+    d->takeColors();
     installEventFilter(d.get());
     hide();
 }
@@ -407,13 +422,19 @@ bool SlidePanel::event(QEvent *event)
     case QEvent::LayoutRequest:
         relocate();
         break;
-    case QEvent::PaletteChange:
-        update();
-        break;
     default:
         break;
     }
     return handled;
+}
+
+/// Setting a palette that is there already changes nothing, and so ends here.
+void SlidePanel::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        d->takeColors();
+    }
 }
 
 void SlidePanel::paintEvent(QPaintEvent *event)

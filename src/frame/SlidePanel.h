@@ -16,6 +16,8 @@ class PanelButton;
  * panel's own ground can be pulled as well. Let go of, the panel goes where a flick sends it;
  * without one, onwards if it has come a third of the way, else back.
  *
+ * Its ground and texts have the colours of panels of the ColorTheme.
+ *
  * Slides move the panel and never change its size. When the parent is resized it calls layoutIn();
  * a slide under way goes on to the new place.
  */
@@ -81,6 +83,7 @@ protected:
     void addHandle(QWidget *handle);
 
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

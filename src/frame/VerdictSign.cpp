@@ -7,6 +7,7 @@
 #include <QPainterPath>
 #include <QStyle>
 
+#include "ColorTheme.h"
 #include "PanelLook.h"
 
 using namespace Qt::StringLiterals;
@@ -17,16 +18,16 @@ constexpr int Sign = 24;
 constexpr int Gap = 10;
 constexpr int Height = 40;
 
-/// White on it has 5:1 and more.
 QColor groundOf(AppPassFail verdict)
 {
+    const ColorTheme &theme = ColorTheme::current();
     switch (verdict) {
     case AppPassFail::Pass:
-        return {0x1b, 0x7a, 0x38};
+        return theme.color("pass"_L1);
     case AppPassFail::Fail:
-        return {0xb3, 0x26, 0x1e};
+        return theme.color("fail"_L1);
     case AppPassFail::Summary:
-        return {0x1f, 0x5f, 0xa8};
+        return theme.color("progress"_L1);
     case AppPassFail::None:
         break;
     }
@@ -121,12 +122,13 @@ void VerdictSign::changeEvent(QEvent *event)
 void VerdictSign::paintEvent(QPaintEvent *)
 {
     const bool isNone = m_verdict == AppPassFail::None;
-    const QColor ink =
-        isNone ? palette().color(QPalette::Active, QPalette::WindowText) : QColor(Qt::white);
+    const QColor ground = groundOf(m_verdict);
+    const QColor ink = isNone ? palette().color(QPalette::Active, QPalette::WindowText)
+                              : DialogTheme::inkOn(ground);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(isNone ? QPen(DialogTheme::outline(palette()), 1) : QPen(Qt::NoPen));
-    painter.setBrush(groundOf(m_verdict));
+    painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
 
     const auto visual = [this](const QRect &place) {

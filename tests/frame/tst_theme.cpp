@@ -1,13 +1,20 @@
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyleFactory>
+#include <QTemporaryFile>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
 
 #include <dialogs/QvexMessageBox.h>
+#include <frame/AppHelpWidget.h>
+#include <frame/AppMissionControlWidget.h>
 #include <frame/ColorTheme.h>
 #include <frame/FwLogView.h>
 #include <input/QvexNumpadDlg.h>
@@ -95,6 +102,7 @@ private Q_SLOTS:
     void takesColorsFromAList();
     void widgetsHearOfEveryColor();
     void changesWhatIsOpenAndWhatIsHidden();
+    void panelsAndTheirPagesFollow();
     void changesAFullWindowAtOnce();
 };
 
@@ -266,6 +274,33 @@ void tst_theme::changesWhatIsOpenAndWhatIsHidden()
     view.resize(600, 300);
     view.show();
     QVERIFY(isDark(groundOf(&view)));
+}
+
+void tst_theme::panelsAndTheirPagesFollow()
+{
+    QTemporaryFile page(QDir::temp().filePath(u"XXXXXX.html"_s));
+    QVERIFY(page.open());
+    page.write("<a href='a.html'>a</a>" + QByteArray("<p>line</p>").repeated(200));
+    page.close();
+    ColorTheme::light().apply();
+    QWidget window;
+    window.resize(1280, 800);
+    AppMissionControlWidget panel(&window);
+    AppHelpWidget help(&window);
+    panel.setApplicationPassFail(1);
+    help.setDuration(0);
+    window.show();
+    help.showHelpWindow(page.fileName());
+    const auto *browser = help.findChild<QTextBrowser *>();
+    browser->verticalScrollBar()->setValue(100);
+
+    ColorTheme::fromColors({u"panel=#102030"_s}, ColorTheme::dark()).apply();
+    QCOMPARE(groundOf(&panel), QColor(0x102030));
+    QCOMPARE(groundOf(panel.findChild<QWidget *>(u"McPassFail"_s)),
+             ColorTheme::dark().color(u"pass"));
+    const QTextFragment link = browser->document()->begin().begin().fragment();
+    QCOMPARE(link.charFormat().foreground().color(), ColorTheme::dark().color(u"link"));
+    QCOMPARE(browser->verticalScrollBar()->value(), 100);
 }
 
 void tst_theme::changesAFullWindowAtOnce()
