@@ -23,8 +23,8 @@ QWidget *MiniMissionControlPage::recipe(QWidget *parent)
     m_panels = new AppMiniMissionControlWidget(frame);
     m_marker = Look::target(tr("Set marker A"), frame);
     m_laser = Look::target(tr("Switch off"), frame);
-    m_panels->registerWidget(m_marker, 260, 120, 0);
-    m_panels->registerWidget(m_laser, 260, 120, 1);
+    m_panels->registerWidget(m_marker, 283, 82, 0);
+    m_panels->registerWidget(m_laser, 283, 82, 1);
     m_panels->setExpandButtonText(m_marker, tr("Marker"));
     m_panels->setExpandButtonText(m_laser, tr("Laser"));
     m_panels->setExpandButtonIcon(m_laser, u":/images/warning.png"_s);

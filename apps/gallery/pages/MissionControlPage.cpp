@@ -17,13 +17,12 @@ MissionControlPage::MissionControlPage()
 QWidget *MissionControlPage::recipe(QWidget *parent)
 {
     auto *frame = new QFrame(parent);
-    frame->setFixedSize(624, 328);
+    frame->setFixedSize(624, 340);
     m_panel = new AppMissionControlWidget(frame);
     m_panel->setApplicationName(tr("Bit error rate"));
     m_panel->setApplicationPort(u"1/2"_s);
     m_panel->registerWidget(new QLabel(tr("Lanes in use: 4")), 0, 0);
     m_panel->registerWidget(new QLabel(tr("Pattern: PRBS31")), 0, 1);
-    noteSignals();
     return frame;
 }
 
@@ -42,6 +41,7 @@ void MissionControlPage::noteSignals()
 
 QWidget *MissionControlPage::controls(QWidget *parent)
 {
+    noteSignals();
     auto *controls = new Controls(parent);
     controls->addButton(tr("expand()"), [this] { m_panel->expand(); });
     controls->addChoice(tr("Verdict: %1"), {0, 1, 2, 3},
