@@ -394,6 +394,7 @@ void AppMissionControlWidget::updateText()
     d->system->setText(tr("System"));
     d->close->setText(tr("Close application"));
     d->bar->setAccessibleName(tr("Progress"));
+    d->gridArea->setAccessibleName(tr("Application controls"));
     d->summary->setSubject(tr("Summary"));
     d->showDetails();
 }
