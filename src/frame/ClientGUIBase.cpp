@@ -17,14 +17,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int ResultWindow = 2;
-constexpr int RoleCount = 3;
 
 /// What a window is called that was registered without a name of its own.
 QString defaultName(qsizetype index)
 {
-    const std::array<QString, RoleCount> names {
-        ClientGUIBase::tr("SETUP"), ClientGUIBase::tr("TEST"), ClientGUIBase::tr("RESULT")};
-    return index < RoleCount ? names[size_t(index)] : QString();
+    const std::array names {ClientGUIBase::tr("SETUP"), ClientGUIBase::tr("TEST"),
+                            ClientGUIBase::tr("RESULT")};
+    return size_t(index) < names.size() ? names[size_t(index)] : QString();
 }
 
 } // namespace
@@ -175,7 +174,7 @@ void ClientGUIBase::on_changeWindow(int index)
 
 void ClientGUIBase::on_windowChanged(int index)
 {
-    if (index < 0 || index >= RoleCount) {
+    if (index < 0 || index >= Private::RoleCount) {
         return;
     }
     d->slideUp->setText(index == ResultWindow ? tr("Result File Browser")
@@ -227,7 +226,7 @@ void ClientGUIBase::UpdateText()
     d->missionControl->updateText();
     d->help->updateText();
     d->launchLabel->setAccessibleName(tr("Applications"));
-    const qsizetype count = qMin(d->windows.size(), qsizetype(RoleCount));
+    const qsizetype count = qMin(d->windows.size(), qsizetype(Private::RoleCount));
     for (qsizetype i = 0; i < count; ++i) {
         if (!d->windows[i].hasOwnName) {
             d->setLabelText(d->windows[i], defaultName(i));

@@ -13,8 +13,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int SlideMs = 500;
-/// Windows with a place and a default name; more are merely kept.
-constexpr int RoleCount = 3;
+
+/// Of all labels but that of the current window.
+QString labelSheet()
+{
+    return u"QLabel { color:white; font-size: %1px; font-weight: bold; }"_s;
+}
 
 QColor colorOf(const QString &text)
 {
@@ -87,10 +91,9 @@ void ClientGUIBase::Private::makeApplicationLabels()
 {
     launchLabel = makeLabel(0, u"FwAppLaunchButtonFrame"_s, q);
     nameLabel = makeLabel(1, u"appWindLabel"_s, q);
-    setLabelStyle(nameLabel, u"QLabel { color:white; font-size: %1px; font-weight: bold; }"_s);
     for (AppLabel *label : {launchLabel, nameLabel}) {
+        setLabelStyle(label, labelSheet());
         connect(label, &AppLabel::labelClicked, q, &ClientGUIBase::on_appLabelClicked);
-        label->hide();
     }
 }
 
@@ -243,10 +246,9 @@ void ClientGUIBase::Private::placeLabels()
 /// The current window's labels stay underlined.
 void ClientGUIBase::Private::styleLabels() const
 {
-    const QString sheet = u"QLabel { color:white; font-size: %1px; font-weight: bold; }"_s;
-    setLabelStyle(launchLabel, sheet);
-    setLabelStyle(nameLabel, sheet);
+    setLabelStyle(launchLabel, labelSheet());
+    setLabelStyle(nameLabel, labelSheet());
     for (const Window &window : windows) {
-        setLabelStyle(window.label, sheet);
+        setLabelStyle(window.label, labelSheet());
     }
 }

@@ -17,6 +17,9 @@
 /// The parts of the frame, and where they are.
 struct ClientGUIBase::Private
 {
+    /// Windows with a place and a default name; more are merely kept.
+    static constexpr int RoleCount = 3;
+
     /// One of the application's windows.
     struct Window
     {
