@@ -45,7 +45,7 @@ public:
         QString journalDirectory;
         /// Bytes, at which the file is renamed to "NAME.log.1", the one before to "NAME.log.2" and
         /// so on, and a new one begun; 64 KiB or more.
-        qint64 maxFileSize = 4 * 1024 * 1024;
+        qint64 maxFileSize = 4LL * 1024 * 1024;
         int fileCount = 5; ///< how many are kept, the one that is written included; 1 or more
         int shownLines = 2000; ///< how many of the newest lines() has
         /// Bytes of the ring, what may wait for the writer; 64 KiB to 64 MiB.

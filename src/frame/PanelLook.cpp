@@ -58,7 +58,7 @@ QFont font(const QFont &base, int pixels, bool bold)
 
 QColor drawPlate(QPainter &painter, const QAbstractButton &button)
 {
-    const QPalette colors = button.palette();
+    const QPalette &colors = button.palette();
     const auto color = [&colors](QPalette::ColorRole role) {
         // Those of the disabled group are too faint to be read.
         return colors.color(QPalette::Active, role);
