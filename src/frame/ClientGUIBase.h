@@ -45,7 +45,8 @@ struct MeasurementInfo;
  * @endcode
  *
  * For the GUI thread only. Widgets that are registered belong to the frame from then on. Logging
- * category: "vex.frame", with the frame's beginning and end as information.
+ * category: "vex.frame", with the frame's beginning and end as information, which FwLog takes
+ * unless it is told otherwise, and nobody else.
  */
 class VEX_EXPORT ClientGUIBase : public QWidget
 {

@@ -1,3 +1,3 @@
 #include "FrameLogging.h"
 
-Q_LOGGING_CATEGORY(lcFrame, "vex.frame", QtInfoMsg)
+Q_LOGGING_CATEGORY(lcFrame, "vex.frame", QtWarningMsg)

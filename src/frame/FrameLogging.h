@@ -2,5 +2,6 @@
 
 #include <QLoggingCategory>
 
-/// "vex.frame": the frame's beginning and end, as information, and wrong calls.
+/// "vex.frame": wrong calls, and as information the frame's beginning and end, which only
+/// FwLog lets through by itself.
 Q_DECLARE_LOGGING_CATEGORY(lcFrame)

@@ -101,7 +101,7 @@ public:
     QString filePath;
     bool running = false;
     QString rules;
-    QMap<QString, QtMsgType> levels;
+    QMap<QString, QtMsgType> levels {{u"vex.frame"_s, QtInfoMsg}};
 };
 
 void FwLog::Private::handle(QtMsgType level, const QMessageLogContext &context, const QString &text)
@@ -169,6 +169,7 @@ bool FwLog::start(const Options &wanted)
         const std::lock_guard lock(d->mutex);
         d->filePath = d->slot->path();
         d->running = true;
+        d->applyRules();
     }
     d->previous = qInstallMessageHandler(&Private::handle);
     const QStringList remarks = d->slot->remarks();

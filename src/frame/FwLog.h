@@ -62,7 +62,8 @@ public:
 
     /**
      * Takes over Qt's message handler and carries over what crashed processes have left behind.
-     * False, and nothing happens, while the log runs and in a child of fork().
+     * False, and nothing happens, while the log runs and in a child of fork(). Rules that were set
+     * by QLoggingCategory::setFilterRules() give way to those of setRules() and setLevel().
      *
      * A file that can't be written (a read-only directory, a full disk) is no failure: the log goes
      * on without it, says so once in the other destinations, and tries again every few seconds.
@@ -77,7 +78,8 @@ public:
 
     /**
      * Messages of @p category ("vex.corba", or "vex.*" for all that begin so) are logged from
-     * @p lowest on. The environment (QT_LOGGING_RULES) has the last word.
+     * @p lowest on; of "vex.frame" from information on unless this says otherwise. The environment
+     * (QT_LOGGING_RULES) has the last word.
      */
     void setLevel(const QString &category, QtMsgType lowest);
     /** Rules of QLoggingCategory::setFilterRules(), which come before those of setLevel(). */

@@ -226,6 +226,7 @@ private Q_SLOTS:
         QFETCH(const QVector<QString>, args);
         QFETCH(const QString, id);
         QFETCH(const QColor, color);
+        QLoggingCategory::setFilterRules(u"vex.frame.info=true"_s);
         const QByteArray line = "Client Base (" + id.toUtf8() + ") ";
         QTest::ignoreMessage(QtInfoMsg, line + "Started");
         QTest::ignoreMessage(QtInfoMsg, line + "Finished");
@@ -235,6 +236,7 @@ private Q_SLOTS:
             QCOMPARE(frame.applicationColor(), color);
             QCOMPARE(frame.windows[0]->parentWidget()->grab().toImage().pixelColor(5, 5), color);
         }
+        QLoggingCategory::setFilterRules(QString());
     }
 
     void layout_data()
