@@ -2,6 +2,7 @@
 
 #include <QToolButton>
 
+#include "FileNames.h"
 #include "FilePaths.h"
 #include "FilesTheme.h"
 #include "dialogs/DialogTheme.h"
@@ -53,7 +54,7 @@ void BreadcrumbBar::resizeEvent(QResizeEvent *event)
 
 QString BreadcrumbBar::textOf(const QString &path) const
 {
-    return path == "/"_L1 ? m_rootName : FilePaths::nameOf(path);
+    return path == "/"_L1 ? m_rootName : FilePaths::shownNameOf(path);
 }
 
 int BreadcrumbBar::widthOf(const QString &text) const
@@ -100,7 +101,8 @@ void BreadcrumbBar::arrange()
     const auto add = [&](const QString &path, const QString &text) {
         QToolButton *button = makeButton(path, text);
         const int space = qMin(widthOf(text), width() - x);
-        button->setText(button->fontMetrics().elidedText(text, Qt::ElideMiddle, space - 16));
+        button->setText(FilePaths::buttonText(
+            button->fontMetrics().elidedText(text, Qt::ElideMiddle, space - 16)));
         button->setGeometry(x, 0, space, leastWidth);
         x += space;
     };
@@ -116,8 +118,8 @@ QToolButton *BreadcrumbBar::makeButton(const QString &path, const QString &text)
 {
     auto *button = new QToolButton(this);
     button->setObjectName(u"Crumb_"_s + path);
-    button->setAccessibleName(tr("Open %1").arg(path));
-    button->setText(text);
+    button->setAccessibleName(tr("Open %1").arg(FileNames::shown(path)));
+    button->setText(FilePaths::buttonText(text));
     button->setFocusPolicy(Qt::TabFocus);
     QFont bold = font();
     bold.setBold(path == m_path);

@@ -47,9 +47,10 @@ ConflictDialog::ConflictDialog(const FileConflict &conflict, QWidget *parent)
                                 .arg(DialogTheme::fontSize));
     auto *column = new QVBoxLayout(this);
     column->setSpacing(DialogTheme::spacing);
-    column->addWidget(makeLabel(
-        u"ConflictText"_s, tr("\"%1\" is there already.").arg(FilePaths::nameOf(conflict.target)),
-        DialogTheme::messageFontSize, this));
+    column->addWidget(
+        makeLabel(u"ConflictText"_s,
+                  tr("\"%1\" is there already.").arg(FilePaths::shownNameOf(conflict.target)),
+                  DialogTheme::messageFontSize, this));
     column->addWidget(makeComparison(conflict));
     column->addWidget(m_forAll);
     column->addWidget(makeButtons());

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPainter>
 
+#include "FileNames.h"
 #include "FilesTheme.h"
 #include "QvexFileModel.h"
 #include "dialogs/DialogTheme.h"
@@ -75,8 +76,8 @@ void paintName(QPainter *painter, const QStyleOptionViewItem &option, const QMod
     icon.moveCenter(
         {cell.left() + FilesTheme::tickWidth + FilesTheme::entryIcon / 2, cell.center().y()});
     FilesTheme::icon(isDir(index) ? u"folder"_s : u"file"_s).paint(painter, icon);
-    paintText(painter, nameRect(cell), index.data(QvexFileModel::FileNameRole).toString(),
-              Qt::AlignLeft);
+    const QString name = index.data(QvexFileModel::FileNameRole).toString();
+    paintText(painter, nameRect(cell), FileNames::shown(name), Qt::AlignLeft);
 }
 
 void paintGround(QPainter *painter, const QStyleOptionViewItem &option)

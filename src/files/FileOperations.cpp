@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include "FileNames.h"
 #include "FilePaths.h"
 #include "FileQuestions.h"
 #include "dialogs/QvexMessageBox.h"
@@ -19,7 +20,7 @@ QString placeText(const FilePlace &place)
     case FilePlace::Kind::Computer:
         return FileOperations::tr("this computer");
     case FilePlace::Kind::Medium:
-        return FileOperations::tr("the medium %1").arg(place.title);
+        return FileOperations::tr("the medium %1").arg(FileNames::shown(place.title));
     }
     return {};
 }
@@ -66,8 +67,8 @@ void FileOperations::rename(const QModelIndex &index, const QString &name)
     if (!fault.isEmpty()) {
         Q_EMIT failed(fault);
     } else if (!m_model || !m_model->setData(index, name, Qt::EditRole)) {
-        Q_EMIT failed(
-            tr("\"%1\" can't be renamed to \"%2\": the name may be taken.").arg(oldName, name));
+        Q_EMIT failed(tr("\"%1\" can't be renamed to \"%2\": the name may be taken.")
+                          .arg(FileNames::shown(oldName), name));
     } else {
         Q_EMIT done(tr("Renamed to \"%1\".").arg(name));
     }
@@ -82,7 +83,8 @@ void FileOperations::remove(const QModelIndexList &entries)
         const bool isDir = m_model->isDir(entry);
         folders += int(isDir);
         paths += m_model->filePath(entry);
-        names += entry.data(QvexFileModel::FileNameRole).toString() + (isDir ? u"/"_s : QString());
+        names += FileNames::shown(entry.data(QvexFileModel::FileNameRole).toString())
+            + (isDir ? u"/"_s : QString());
     }
     if (paths.isEmpty()) {
         return;
@@ -113,8 +115,9 @@ void FileOperations::pickUp(const QStringList &paths, bool moves)
     m_pickedUp = paths;
     m_moves = moves;
     Q_EMIT pickedUp();
-    const QString names = paths.size() == 1 ? u'"' + FilePaths::nameOf(paths.constFirst()) + u'"'
-                                            : tr("%1 entries").arg(paths.size());
+    const QString names = paths.size() == 1
+        ? u'"' + FilePaths::shownNameOf(paths.constFirst()) + u'"'
+        : tr("%1 entries").arg(paths.size());
     Q_EMIT done((moves ? tr("Open a folder and tap Paste to move %1.")
                        : tr("Open a folder and tap Paste to copy %1."))
                     .arg(names));
@@ -160,7 +163,7 @@ void FileOperations::end(long result, const QString &where)
         Q_EMIT done(m_doneText);
     } else {
         const QString text = m_model->resultText(result);
-        Q_EMIT failed(where.isEmpty() ? text : FilePaths::nameOf(where) + u": "_s + text);
+        Q_EMIT failed(where.isEmpty() ? text : FilePaths::shownNameOf(where) + u": "_s + text);
     }
 }
 

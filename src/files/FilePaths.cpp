@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
+#include "FileNames.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -32,6 +34,16 @@ QString parentOf(const QString &path)
 QString nameOf(const QString &path)
 {
     return path.sliced(path.lastIndexOf(u'/') + 1);
+}
+
+QString shownNameOf(const QString &path)
+{
+    return FileNames::shown(nameOf(path));
+}
+
+QString buttonText(QString text)
+{
+    return text.replace(u'&', u"&&"_s);
 }
 
 QStringList ancestors(const QString &path)

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "FileNames.h"
 #include "QvexFileModel.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -86,7 +87,7 @@ QString failureLines(const TransferSummary &summary)
 {
     QStringList lines;
     for (const TransferSummary::Failure &failure : summary.failures) {
-        lines += failure.path + u": "_s + failure.reason;
+        lines += FileNames::shown(failure.path) + u": "_s + failure.reason;
     }
     return lines.join(u'\n');
 }

@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "FileListView.h"
+#include "FileNames.h"
 #include "FilePane.h"
 #include "FilePaths.h"
 #include "FilesTheme.h"
@@ -275,7 +276,7 @@ void FwLoadSaveDialog::Private::save()
     const QModelIndex there = pane->files()->fileIndex(path);
     const bool isLocalFile = pane->place().isLocal() && QFileInfo::exists(path);
     if (there.isValid() && pane->files()->isDir(there)) {
-        pane->showError(tr("There is a folder with the name \"%1\".").arg(file));
+        pane->showError(tr("There is a folder with the name \"%1\".").arg(FileNames::shown(file)));
     } else if (there.isValid() || isLocalFile) {
         askToOverwrite(path);
     } else {
@@ -289,7 +290,7 @@ void FwLoadSaveDialog::Private::askToOverwrite(const QString &path)
     box->setObjectName(u"OverwriteQuestion"_s);
     box->setWindowTitle(tr("Save"));
     box->setIcon(QvexMessageBox::Warning);
-    box->setText(tr("\"%1\" exists already. Overwrite it?").arg(FilePaths::nameOf(path)));
+    box->setText(tr("\"%1\" exists already. Overwrite it?").arg(FilePaths::shownNameOf(path)));
     box->setInformativeText(tr("What it holds now will be lost."));
     const QPushButton *yes = box->addButton(tr("Overwrite"), QDialogButtonBox::DestructiveRole);
     box->addButton(QDialogButtonBox::Cancel);

@@ -4,6 +4,8 @@
 #include <QResizeEvent>
 #include <QToolButton>
 
+#include "FileNames.h"
+#include "FilePaths.h"
 #include "FilesTheme.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -26,7 +28,9 @@ protected:
     {
         QToolButton::resizeEvent(event);
         const int room = event->size().width() - FilesTheme::entryIcon - 32;
-        setText(u' ' + fontMetrics().elidedText(accessibleName(), Qt::ElideMiddle, room));
+        const QString name = FileNames::shown(accessibleName());
+        setText(u' '
+                + FilePaths::buttonText(fontMetrics().elidedText(name, Qt::ElideMiddle, room)));
     }
 };
 
@@ -64,7 +68,7 @@ QToolButton *PlaceBar::makeButton(const FilePlace &place)
     auto *button = new PlaceButton(this);
     button->setObjectName(u"Place_"_s + place.home);
     button->setAccessibleName(place.title);
-    button->setText(u' ' + place.title);
+    button->setText(u' ' + FilePaths::buttonText(FileNames::shown(place.title)));
     button->setIcon(FilesTheme::icon(iconOf(place.kind)));
     button->setIconSize({FilesTheme::entryIcon, FilesTheme::entryIcon});
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <limits>
 
+#include "FileNames.h"
 #include "corba/FcpAppCORBA.h"
 
 using namespace Qt::StringLiterals;
@@ -465,11 +466,11 @@ QString QvexRemoteFileModel::Private::displayText(const RemoteNode *node, int co
         if (node == tree.root()) {
             return host.isEmpty() ? tr("Instrument") : tr("Instrument (%1)").arg(host);
         }
-        return RemoteDisplay::name(node->item.name);
+        return FileNames::shown(node->item.name);
     case SizeColumn:
         return node->item.isdir ? QString() : sizeText(node->item.size);
     case TypeColumn:
-        return typeText(RemoteDisplay::name(node->item.name), node->item.isdir);
+        return typeText(FileNames::shown(node->item.name), node->item.isdir);
     case DateColumn:
         return node->item.date;
     default:

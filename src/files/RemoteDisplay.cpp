@@ -3,41 +3,11 @@
 #include <QCoreApplication>
 #include <QDateTime>
 
-#include <algorithm>
 #include <cerrno>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr char16_t PictureOfNul = 0x2400; // U+2400 to U+241F show the control characters
-constexpr char16_t PictureOfDelete = 0x2421;
-
-/// Separates lines, turns the direction of text around, or is half a character.
-bool misleads(QChar c)
-{
-    const char16_t u = c.unicode();
-    return u == 0x2028 || u == 0x2029 || (u >= 0x80 && u < 0xA0) || (u >= 0x200E && u <= 0x200F)
-        || (u >= 0x202A && u <= 0x202E) || (u >= 0x2066 && u <= 0x2069);
-}
-
-bool isOrdinary(QChar c)
-{
-    return c >= u' ' && c.unicode() != 0x7F && !misleads(c) && !c.isSurrogate();
-}
-
-QString sign(QChar c)
-{
-    const char16_t u = c.unicode();
-    if (u < u' ') {
-        return QChar(PictureOfNul + u);
-    }
-    if (u == 0x7F) {
-        return QChar(PictureOfDelete);
-    }
-    const int byteOrCode = c.isLowSurrogate() ? u & 0xFF : u; // see FcpAppCORBA
-    return QChar(QChar::ReplacementCharacter) + QString::number(byteOrCode, 16).toUpper();
-}
 
 /// The number that @p count digits are, or -1.
 int digits(const QString &text, qsizetype at, int count)
@@ -58,22 +28,6 @@ QString translated(const char *text)
 }
 
 } // namespace
-
-QString RemoteDisplay::name(const QString &name)
-{
-    if (std::all_of(name.cbegin(), name.cend(), isOrdinary)) {
-        return name;
-    }
-    QString shown;
-    for (qsizetype i = 0; i < name.size(); ++i) {
-        if (name[i].isHighSurrogate() && i + 1 < name.size() && name[i + 1].isLowSurrogate()) {
-            shown += QStringView(name).sliced(i++, 2);
-        } else {
-            shown += isOrdinary(name[i]) ? QString(name[i]) : sign(name[i]);
-        }
-    }
-    return shown;
-}
 
 /// Views sort by it: QDateTime's own parser would take a hundred times as long.
 QVariant RemoteDisplay::time(const QString &date)

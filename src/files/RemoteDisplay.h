@@ -11,8 +11,6 @@
 /** How entries of the instrument's storage look. */
 namespace RemoteDisplay {
 
-/** A name with visible signs for what a line of text can't show. */
-QString name(const QString &name);
 /** The QDateTime in the controller's text of a date, or the text where it is another format. */
 QVariant time(const QString &date);
 /** A controller's result in words; Linux's numbers, which controllers use, have some. */

@@ -5,6 +5,7 @@
 #include <QProgressBar>
 #include <QToolButton>
 
+#include "FileNames.h"
 #include "FileQuestions.h"
 #include "FilesTheme.h"
 #include "QvexFileModel.h"
@@ -80,7 +81,8 @@ void TransferPanel::begin(const QString &title)
 
 void TransferPanel::showProgress(const TransferProgress &progress)
 {
-    m_fileText = progress.file.isEmpty() ? m_title : m_title + u"  "_s + progress.file;
+    m_fileText =
+        progress.file.isEmpty() ? m_title : m_title + u"  "_s + FileNames::shown(progress.file);
     m_numbers->setText(progress.fileCount > 0 ? numbersText(progress) : QString());
     const double share = progress.bytesTotal > 0
         ? static_cast<double>(progress.bytesDone) / static_cast<double>(progress.bytesTotal)

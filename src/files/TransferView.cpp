@@ -5,6 +5,7 @@
 
 #include "ConflictQuestions.h"
 #include "FileListView.h"
+#include "FileNames.h"
 #include "FileOperations.h"
 #include "FilePane.h"
 #include "FilePaths.h"
@@ -32,7 +33,7 @@ QString wrongTarget(const QStringList &paths, const QString &folder)
     for (const QString &path : paths) {
         if (folder == path || folder.startsWith(path + u'/')) {
             return TransferView::tr("\"%1\" can't be copied into itself.")
-                .arg(FilePaths::nameOf(path));
+                .arg(FilePaths::shownNameOf(path));
         }
         if (FilePaths::parentOf(path) == folder) {
             return TransferView::tr("Both sides show the same folder.");
@@ -148,7 +149,7 @@ void TransferView::begin(FileTransfer::Kind kind, const QStringList &paths, File
     m_transfer->setQuestions(m_questions);
     connect(m_transfer, &FileTransfer::progressChanged, m_panel, &TransferPanel::showProgress);
     connect(m_transfer, &FileTransfer::finished, this, &TransferView::end);
-    m_panel->begin(tr("To %1:").arg(to->place().title));
+    m_panel->begin(tr("To %1:").arg(FileNames::shown(to->place().title)));
     m_panel->show();
     updateArrows();
     m_transfer->start();
