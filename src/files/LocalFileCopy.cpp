@@ -10,6 +10,8 @@
 
 #include <cerrno>
 
+#include "FileDescriptor.h"
+
 namespace {
 
 constexpr qsizetype ChunkSize = 1 << 20;
@@ -19,28 +21,10 @@ QString tr(const char *text)
     return QCoreApplication::translate("FileTransfer", text);
 }
 
-/// A descriptor that closes itself.
-class Descriptor
+FileDescriptor openFile(const QString &path, int flags, mode_t mode = 0)
 {
-public:
-    Descriptor(const QString &path, int flags, mode_t mode = 0)
-        : m_fd(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, mode))
-    {
-    }
-    ~Descriptor()
-    {
-        if (m_fd >= 0) {
-            ::close(m_fd);
-        }
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-    int get() const { return m_fd; }
-
-private:
-    const int m_fd;
-};
+    return FileDescriptor(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, mode));
+}
 
 TransferStep readFailed()
 {
@@ -110,16 +94,16 @@ TransferStep LocalFileCopy::copy(const QString &source, const QString &target,
                                  const Progress &progress)
 {
     // A pipe that has taken the file's place meanwhile must not block.
-    const Descriptor from(source, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+    const FileDescriptor from = openFile(source, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
     struct stat status = {};
-    if (from.get() < 0 || ::fstat(from.get(), &status) != 0) {
+    if (!from || ::fstat(from.get(), &status) != 0) {
         return readFailed();
     }
     if (!S_ISREG(status.st_mode)) {
         return TransferStep::failed(tr("it is no file any more"));
     }
-    const Descriptor to(target, O_WRONLY | O_CREAT | O_EXCL, 0600);
-    if (to.get() < 0) {
+    const FileDescriptor to = openFile(target, O_WRONLY | O_CREAT | O_EXCL, 0600);
+    if (!to) {
         return writeFailed();
     }
     TransferStep step = copyContents(from.get(), to.get(), progress);
