@@ -101,6 +101,11 @@ private:
                 u"%1 is %2"_s.arg(m_target.model().filePath(target),
                                   m_target.model().isDir(target) ? u"a folder"_s : u"a file"_s));
         }
+        // What is behind it may be anywhere.
+        if (target.isValid() && !m_target.isInstrument() && m_target.model().isDir(target)
+            && QFileInfo(m_target.model().filePath(target)).isSymLink()) {
+            return refuse(path, u"%1 is a symbolic link"_s.arg(m_target.model().filePath(target)));
+        }
         return true;
     }
 
