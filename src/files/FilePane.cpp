@@ -10,8 +10,11 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "BreadcrumbBar.h"
 #include "FileListView.h"
+#include "FileNames.h"
 #include "FileOperations.h"
 #include "FilePaths.h"
 #include "FileSortFilter.h"
@@ -151,15 +154,19 @@ void FilePane::connectParts()
     // Rows of a new folder may come before its name is known here.
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &FilePane::editAwaited,
             Qt::QueuedConnection);
-    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, [this] {
+    connect(m_filter, &QAbstractItemModel::layoutChanged, this, &FilePane::editAwaited,
+            Qt::QueuedConnection);
+    const auto rowsLeft = [this] {
         updateActions();
         Q_EMIT selectionHasChanged();
-    });
+    };
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, rowsLeft);
+    connect(m_filter, &QAbstractItemModel::layoutChanged, this, rowsLeft);
     connect(m_link, &LinkWatch::lost, this, &FilePane::updateLink);
     connect(m_link, &LinkWatch::restored, this, [this] {
         updateLink();
         if (!m_place.isLocal()) {
-            showFolder(m_folder);
+            rootIndex().isValid() ? refresh() : showFolder(m_folder);
         }
     });
     connect(m_link, &LinkWatch::retryFailed, this, [this] {
@@ -210,8 +217,12 @@ void FilePane::setPlaces(const QVector<FilePlace> &places)
     const bool isGone = !m_folder.isEmpty() && !places.contains(m_place);
     if (isGone && !places.isEmpty()) {
         const QString title = m_place.title;
-        showPlace(places.constFirst());
-        showError(tr("%1 was removed.").arg(title));
+        const auto next =
+            std::find_if(places.cbegin(), places.cend(), [this](const FilePlace &place) {
+                return place.isLocal() == m_place.isLocal();
+            });
+        showPlace(next == places.cend() ? places.constFirst() : *next);
+        showError(tr("%1 was removed.").arg(FileNames::shown(title)));
     }
 }
 
@@ -243,10 +254,7 @@ void FilePane::useModel(QvexFileModel *model)
     if (files()) {
         files()->disconnect(this);
     }
-    m_list->setRootIndex({});
-    m_filter->setFolder({});
     m_filter->setSourceModel(model);
-    m_list->setModel(m_filter);
     applyFilters(model);
     connect(model, &QvexFileModel::directoryLoaded, this, &FilePane::updateHint);
     connect(model, &QvexFileModel::rootPathChanged, this, &FilePane::rootMoved);
@@ -280,7 +288,7 @@ void FilePane::showFolder(const QString &path)
     const QModelIndex root = files()->setRootPath(clean);
     if (!root.isValid() || files()->filePath(root) != clean) {
         m_folder = before;
-        m_status->showError(tr("There is no folder \"%1\".").arg(clean));
+        m_status->showError(tr("There is no folder \"%1\".").arg(FileNames::shown(clean)));
         return;
     }
     m_lastFolders.insert(m_place.home, clean);
@@ -295,7 +303,6 @@ void FilePane::showRoot(const QModelIndex &root)
 {
     m_list->selectionModel()->clear();
     m_filter->setFolder(root);
-    m_list->setRootIndex(m_filter->mapFromSource(root));
     m_list->scrollToTop();
     const bool isInstrument = !m_place.isLocal();
     m_crumbs->setPath(m_folder, isInstrument ? m_place.title : u"/"_s);
@@ -323,7 +330,7 @@ void FilePane::rootMoved(const QString &path)
     }
     const QString gone = m_folder;
     showFolder(path);
-    m_status->showError(tr("The folder \"%1\" is gone.").arg(FilePaths::nameOf(gone)));
+    m_status->showError(tr("The folder \"%1\" is gone.").arg(FilePaths::shownNameOf(gone)));
 }
 
 void FilePane::listingFailed(const QString &path)
