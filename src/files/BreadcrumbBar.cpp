@@ -1,5 +1,6 @@
 #include "BreadcrumbBar.h"
 
+#include <QEvent>
 #include <QToolButton>
 
 #include "FileNames.h"
@@ -50,6 +51,15 @@ void BreadcrumbBar::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     arrange();
+}
+
+void BreadcrumbBar::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(tr("Path"));
+        arrange();
+    }
 }
 
 QString BreadcrumbBar::textOf(const QString &path) const

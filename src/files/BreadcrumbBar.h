@@ -28,6 +28,7 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     QToolButton *makeButton(const QString &path, const QString &text);

@@ -1,5 +1,6 @@
 #include "FileActionBar.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -17,23 +18,35 @@ constexpr int buttonWidth = DialogTheme::touchTarget + 4;
 FileActionBar::FileActionBar(QWidget *parent)
     : QWidget(parent)
 {
-    const std::pair<QString, QString> actions[ActionCount] {
-        {u"refresh"_s, tr("List anew")}, {u"new_folder"_s, tr("New folder")},
-        {u"rename"_s, tr("Rename")},     {u"copy"_s, tr("Copy")},
-        {u"move"_s, tr("Move")},         {u"paste"_s, tr("Paste")},
-        {u"delete"_s, tr("Delete")},
-    };
+    const QString icons[ActionCount] {u"refresh"_s, u"new_folder"_s, u"rename"_s, u"copy"_s,
+                                      u"move"_s,    u"paste"_s,      u"delete"_s};
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     for (int i = 0; i < ActionCount; ++i) {
-        QToolButton *button =
-            FilesTheme::toolButton(u"Action_"_s + actions[i].first, actions[i].first, this);
-        FilesTheme::setName(button, actions[i].second);
+        QToolButton *button = FilesTheme::toolButton(u"Action_"_s + icons[i], icons[i], this);
         connect(button, &QToolButton::clicked, this,
                 [this, i] { Q_EMIT triggered(static_cast<Action>(i)); });
         row->addWidget(button);
         m_buttons.append(button);
+    }
+    updateText();
+}
+
+void FileActionBar::updateText()
+{
+    const QString names[ActionCount] {tr("List anew"), tr("New folder"), tr("Rename"), tr("Copy"),
+                                      tr("Move"),      tr("Paste"),      tr("Delete")};
+    for (int i = 0; i < ActionCount; ++i) {
+        FilesTheme::setName(m_buttons[i], names[i]);
+    }
+}
+
+void FileActionBar::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateText();
     }
 }
 

@@ -23,7 +23,10 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void updateText();
+
     QVector<QToolButton *> m_buttons;
 };

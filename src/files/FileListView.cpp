@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -66,6 +67,17 @@ void FileListView::setUpHeader()
 void FileListView::setModel(QAbstractItemModel *model)
 {
     QTreeView::setModel(model);
+    if (model) {
+        using Model = QAbstractItemModel;
+        connect(model, &Model::rowsAboutToBeInserted, this, &FileListView::holdRows);
+        connect(model, &Model::rowsAboutToBeRemoved, this, &FileListView::holdRows);
+        connect(model, &Model::modelAboutToBeReset, this, [this] { m_held.clear(); });
+        connect(model, &Model::layoutAboutToBeChanged, this,
+                [this](const auto &, Model::LayoutChangeHint hint) {
+                    // Who sorts wants to see another part.
+                    hint == Model::VerticalSortHint ? m_held.clear() : holdRows();
+                });
+    }
     if (model && header()->count() == QvexFileModel::ColumnCount) {
         header()->setSectionResizeMode(QHeaderView::Fixed);
         header()->setSectionResizeMode(QvexFileModel::NameColumn, QHeaderView::Stretch);
@@ -74,6 +86,31 @@ void FileListView::setModel(QAbstractItemModel *model)
         header()->resizeSection(QvexFileModel::DateColumn, dateWidth);
         sortByColumn(QvexFileModel::NameColumn, Qt::AscendingOrder);
         fitColumns();
+    }
+}
+
+void FileListView::holdRows()
+{
+    if (!m_held.isEmpty() || verticalScrollBar()->value() == 0) {
+        return;
+    }
+    const QModelIndex first = indexAt({0, 0});
+    m_heldTop = visualRect(first).top();
+    for (int i = 0; first.isValid() && i * FilesTheme::rowHeight < viewport()->height(); ++i) {
+        m_held += first.siblingAtRow(first.row() + i);
+    }
+}
+
+void FileListView::doItemsLayout()
+{
+    QTreeView::doItemsLayout();
+    const QVector<QPersistentModelIndex> held = std::exchange(m_held, {});
+    const auto there =
+        std::find_if(held.cbegin(), held.cend(), [](const auto &index) { return index.isValid(); });
+    if (there != held.cend()) {
+        const int before = m_heldTop + int(there - held.cbegin()) * FilesTheme::rowHeight;
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + visualRect(*there).top()
+                                      - before);
     }
 }
 
@@ -133,6 +170,15 @@ void FileListView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
     fitColumns();
+}
+
+void FileListView::changeEvent(QEvent *event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        header()->setAccessibleName(tr("Columns"));
+        header()->viewport()->update();
+    }
 }
 
 void FileListView::mousePressEvent(QMouseEvent *event)

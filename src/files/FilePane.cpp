@@ -31,6 +31,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int narrowTypes = 64;
+constexpr int widestHeadButton = 200;
 
 } // namespace
 
@@ -45,6 +46,7 @@ FilePane::FilePane(const FileStores &stores, LinkWatch *link, bool placesAbove, 
     setProperty("active", false);
     makeParts(placesAbove);
     arrange(placesAbove);
+    updateText();
     connectParts();
     connectOperations();
     m_types->hide();
@@ -66,28 +68,31 @@ void FilePane::makeParts(bool placesAbove)
     m_placeBar = new PlaceBar(placesAbove ? Qt::Horizontal : Qt::Vertical, this);
     m_placeBar->setObjectName(u"PlaceBar"_s);
     m_up = FilesTheme::toolButton(u"UpButton"_s, u"up"_s, this);
-    FilesTheme::setName(m_up, tr("Up"));
     m_crumbs = new BreadcrumbBar(this);
     m_crumbs->setObjectName(u"Breadcrumbs"_s);
     m_search = new QLineEdit(this);
     m_search->setObjectName(u"SearchEdit"_s);
-    m_search->setAccessibleName(tr("Search in this folder"));
-    m_search->setPlaceholderText(tr("Search"));
     m_search->setClearButtonEnabled(true);
     m_search->setMinimumWidth(96);
     m_search->setMaximumWidth(240);
     m_types = new QComboBox(this);
     m_types->setObjectName(u"TypeCombo"_s);
-    m_types->setAccessibleName(tr("Types of files"));
     m_types->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_types->setView(new QListView(m_types)); // whose rows can be made large enough
     m_types->setMinimumWidth(100);
     m_types->setMaximumWidth(360);
+    m_headOnly = new QToolButton(this);
+    m_headOnly->setObjectName(u"HeadButton"_s);
+    m_headOnly->setProperty("place", true); // it has a border
+    m_headOnly->setCheckable(true);
+    m_headOnly->setChecked(true);
+    m_headOnly->setMinimumHeight(DialogTheme::touchTarget + 4);
+    m_headOnly->setMaximumWidth(widestHeadButton);
+    m_headOnly->hide();
     m_actions = new FileActionBar(this);
     m_actions->setObjectName(u"FileActions"_s);
     m_list = new FileListView(this);
     m_list->setObjectName(u"FileList"_s);
-    m_list->setAccessibleName(tr("Files"));
     m_list->setMinimumHeight(FilesTheme::headerHeight + FilesTheme::rowHeight + 2);
     m_list->setModel(m_filter);
     m_notice = new PaneNotice(this);
@@ -111,6 +116,7 @@ void FilePane::arrange(bool placesAbove)
     } else {
         tools->addWidget(m_types, 1);
     }
+    tools->addWidget(m_headOnly);
     tools->addWidget(m_actions, 0, Qt::AlignLeft);
     tools->addStretch();
     m_stack = new QStackedLayout;
@@ -142,6 +148,7 @@ void FilePane::connectParts()
         m_filter->setPatterns(FilePaths::patternsOf(m_nameFilters.value(at)));
         updateHint();
     });
+    connect(m_headOnly, &QToolButton::toggled, this, [this] { applyFilters(files()); });
     connect(m_actions, &FileActionBar::triggered, this, &FilePane::act);
     connect(m_list, &FileListView::opened, this, &FilePane::open);
     connect(m_list, &FileListView::upRequested, this, &FilePane::goUp);
@@ -191,6 +198,26 @@ void FilePane::connectOperations()
     connect(m_operations, &FileOperations::failed, m_status, &StatusStrip::showError);
     connect(m_operations, &FileOperations::pickedUp, this, &FilePane::updateActions);
     connect(m_status, &StatusStrip::cancelRequested, m_operations, &FileOperations::cancel);
+}
+
+void FilePane::updateText()
+{
+    FilesTheme::setName(m_up, tr("Up"));
+    m_search->setAccessibleName(tr("Search in this folder"));
+    m_search->setPlaceholderText(tr("Search"));
+    m_types->setAccessibleName(tr("Types of files"));
+    m_list->setAccessibleName(tr("Files"));
+    updateHeadButton();
+}
+
+void FilePane::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateText();
+        updateHint();
+        updateLink();
+    }
 }
 
 bool FilePane::eventFilter(QObject *watched, QEvent *event)
@@ -243,6 +270,7 @@ void FilePane::showPlace(const FilePlace &place, const QString &folder)
     if (m_folder.isEmpty()) {
         showFolder(place.home);
     }
+    updateHeadButton();
     updateLink();
 }
 
@@ -270,7 +298,8 @@ void FilePane::applyFilters(QvexFileModel *model) const
         model->setVexFilters(m_vexPatterns, m_vexTypes);
     }
     if (auto *local = qobject_cast<QvexLocalFileModel *>(model)) {
-        local->setHeadFilter(m_appType, m_appTech);
+        const bool isOn = m_headOnly->isChecked();
+        local->setHeadFilter(isOn ? m_appType : QString(), isOn ? m_appTech : QString());
     }
 }
 
@@ -480,6 +509,18 @@ void FilePane::setHeadFilter(const QString &appType, const QString &appTech)
     for (QvexFileModel *model : std::as_const(m_models)) {
         applyFilters(model);
     }
+    updateHeadButton();
+}
+
+/// The instrument lets nobody look into its files.
+void FilePane::updateHeadButton()
+{
+    const QString application = FileNames::shown((m_appType + u' ' + m_appTech).trimmed());
+    const QString text = tr("Only %1").arg(application);
+    m_headOnly->setText(FilePaths::buttonText(
+        m_headOnly->fontMetrics().elidedText(text, Qt::ElideMiddle, widestHeadButton - 24)));
+    m_headOnly->setAccessibleName(tr("List only files of %1").arg(application));
+    m_headOnly->setVisible(!application.isEmpty() && m_place.isLocal());
 }
 
 void FilePane::setMultiple(bool multiple)

@@ -71,6 +71,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
     void listingFailed(const QString &path);
@@ -83,6 +84,8 @@ private:
     void useModel(QvexFileModel *model);
     void applyFilters(QvexFileModel *model) const;
     void showRoot(const QModelIndex &root);
+    void updateText();
+    void updateHeadButton();
     void updateHint();
     void updateActions();
     void updateLink();
@@ -112,6 +115,7 @@ private:
     BreadcrumbBar *m_crumbs = nullptr;
     QLineEdit *m_search = nullptr;
     QComboBox *m_types = nullptr;
+    QToolButton *m_headOnly = nullptr;
     FileActionBar *m_actions = nullptr;
     QStackedLayout *m_stack = nullptr;
     FileListView *m_list = nullptr;

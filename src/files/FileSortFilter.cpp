@@ -180,6 +180,19 @@ void FileSortFilter::fetchMore(const QModelIndex &parent)
     }
 }
 
+/// A view asks for those of every row when it lays them out.
+Qt::ItemFlags FileSortFilter::flags(const QModelIndex &index) const
+{
+    if (!index.isValid() || index.row() >= rowCount()) {
+        return Qt::NoItemFlags;
+    }
+    Qt::ItemFlags flags = m_keys[size_t(m_shown[size_t(index.row())])].flags;
+    if (index.column() != QvexFileModel::NameColumn) {
+        flags &= ~Qt::ItemIsEditable;
+    }
+    return flags | Qt::ItemNeverHasChildren;
+}
+
 QVariant FileSortFilter::headerData(int section, Qt::Orientation orientation, int role) const
 {
     return sourceModel() ? sourceModel()->headerData(section, orientation, role) : QVariant();
@@ -405,6 +418,8 @@ void FileSortFilter::changed(const QModelIndex &topLeft, const QModelIndex &bott
         FileSortKey key = readKey(row);
         if (!(key == m_keys[size_t(row)])) {
             keys.emplace_back(row, std::move(key));
+        } else {
+            m_keys[size_t(row)].flags = key.flags;
         }
     }
     if (!keys.empty()) {

@@ -44,6 +44,7 @@ QString orderOf(const QString &name)
 FileSortKey::FileSortKey(const QModelIndex &entry, int column)
     : name(entry.data(QvexFileModel::FileNameRole).toString())
     , order(orderOf(name))
+    , flags(entry.flags())
     , isDir(entry.data(QvexFileModel::IsDirRole).toBool())
 {
     if (column == QvexFileModel::SizeColumn) {

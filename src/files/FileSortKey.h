@@ -18,6 +18,7 @@ struct FileSortKey
     QString order; ///< compares as names are sorted: "trace9" before "trace10"
     QString text; ///< of the column, where there is no number
     qint64 number = 0; ///< of the column
+    Qt::ItemFlags flags; ///< of the name
     bool isDir = false;
     bool fitsType = true; ///< for its owner
 };

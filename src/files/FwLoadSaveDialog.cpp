@@ -55,7 +55,7 @@ struct FwLoadSaveDialog::Private
     void make();
     void makeBrowser();
     void makeTransfer();
-    QPushButton *makeButton(const QString &name, const QString &text);
+    QPushButton *makeButton(const QString &name);
     QVector<FilePlace> places() const;
     QVector<FilePane *> panes() const;
     FilePane *active() const;
@@ -108,11 +108,10 @@ void FwLoadSaveDialog::Private::make()
     updateButton();
 }
 
-QPushButton *FwLoadSaveDialog::Private::makeButton(const QString &buttonName, const QString &text)
+QPushButton *FwLoadSaveDialog::Private::makeButton(const QString &buttonName)
 {
-    auto *button = new QPushButton(text, q);
+    auto *button = new QPushButton(q);
     button->setObjectName(buttonName);
-    button->setAccessibleName(text);
     button->setAutoDefault(false);
     return button;
 }
@@ -131,8 +130,8 @@ void FwLoadSaveDialog::Private::makeBrowser()
     } else {
         actions->addStretch();
     }
-    cancelButton = makeButton(u"CancelButton"_s, tr("Cancel"));
-    commitButton = makeButton(u"CommitButton"_s, saves ? tr("Save") : tr("Open"));
+    cancelButton = makeButton(u"CancelButton"_s);
+    commitButton = makeButton(u"CommitButton"_s);
     actions->addWidget(cancelButton);
     actions->addWidget(commitButton);
     pane = new FilePane(stores, link, false, q);
@@ -232,6 +231,12 @@ void FwLoadSaveDialog::Private::updateText()
 {
     const QString titles[] {tr("Load"), tr("Save"), tr("Transfer files")};
     q->setWindowTitle(titles[static_cast<int>(mode)]);
+    if (commitButton) {
+        commitButton->setText(mode == Mode::Save ? tr("Save") : tr("Open"));
+        commitButton->setAccessibleName(commitButton->text());
+        cancelButton->setText(tr("Cancel"));
+        cancelButton->setAccessibleName(cancelButton->text());
+    }
 }
 
 void FwLoadSaveDialog::Private::updateButton()

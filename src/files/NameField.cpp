@@ -1,5 +1,6 @@
 #include "NameField.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,14 +12,13 @@ using namespace Qt::Literals::StringLiterals;
 
 NameField::NameField(QWidget *parent)
     : QWidget(parent)
+    , m_label(new QLabel(this))
     , m_edit(new QLineEdit(this))
     , m_fault(new QLabel(this))
 {
-    auto *label = new QLabel(tr("File name"), this);
-    label->setObjectName(u"NameLabel"_s);
-    label->setBuddy(m_edit);
+    m_label->setObjectName(u"NameLabel"_s);
+    m_label->setBuddy(m_edit);
     m_edit->setObjectName(u"NameEdit"_s);
-    m_edit->setAccessibleName(tr("File name"));
     m_fault->setObjectName(u"NameFault"_s);
     m_fault->setTextFormat(Qt::PlainText);
     connect(m_edit, &QLineEdit::textChanged, this, &NameField::check);
@@ -26,10 +26,26 @@ NameField::NameField(QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(FilesTheme::gap);
-    row->addWidget(label);
+    row->addWidget(m_label);
     row->addWidget(m_edit, 1);
     row->addWidget(m_fault);
     setFocusProxy(m_edit);
+    updateText();
+}
+
+void NameField::updateText()
+{
+    m_label->setText(tr("File name"));
+    m_edit->setAccessibleName(tr("File name"));
+}
+
+void NameField::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateText();
+        check();
+    }
 }
 
 QString NameField::name() const

@@ -27,9 +27,14 @@ Q_SIGNALS:
     void nameChanged();
     void committed();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void updateText();
     void check();
 
+    QLabel *m_label;
     QLineEdit *m_edit;
     QLabel *m_fault;
     QString m_suffix;

@@ -1,5 +1,6 @@
 #include "StatusStrip.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -18,8 +19,6 @@ StatusStrip::StatusStrip(QWidget *parent)
     m_label->setTextFormat(Qt::PlainText);
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_cancel->setObjectName(u"StatusCancel"_s);
-    m_cancel->setText(tr("Stop"));
-    m_cancel->setAccessibleName(tr("Stop what is under way"));
     m_cancel->setMinimumSize(80, DialogTheme::touchTarget);
     m_cancel->hide();
     connect(m_cancel, &QToolButton::clicked, this, &StatusStrip::cancelRequested);
@@ -28,6 +27,21 @@ StatusStrip::StatusStrip(QWidget *parent)
     row->addWidget(m_label, 1);
     row->addWidget(m_cancel);
     setMinimumHeight(28);
+    updateText();
+}
+
+void StatusStrip::updateText()
+{
+    m_cancel->setText(tr("Stop"));
+    m_cancel->setAccessibleName(tr("Stop what is under way"));
+}
+
+void StatusStrip::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateText();
+    }
 }
 
 void StatusStrip::showMessage(const QString &text)

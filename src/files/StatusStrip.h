@@ -24,8 +24,10 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void updateText();
     void show(const QString &text, bool isError, bool isBusy);
     void elide();
 

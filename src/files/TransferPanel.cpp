@@ -1,5 +1,6 @@
 #include "TransferPanel.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -49,12 +50,9 @@ TransferPanel::TransferPanel(QWidget *parent)
     m_file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_numbers->setObjectName(u"TransferNumbers"_s);
     m_bar->setObjectName(u"TransferBar"_s);
-    m_bar->setAccessibleName(tr("Progress of the transfer"));
     m_bar->setRange(0, barSteps);
     m_bar->setTextVisible(false);
     m_cancel->setObjectName(u"TransferCancel"_s);
-    m_cancel->setText(tr("Cancel"));
-    m_cancel->setAccessibleName(tr("Cancel the transfer"));
     m_cancel->setMinimumSize(DialogTheme::buttonWidth, DialogTheme::touchTarget + 4);
     m_cancel->setStyleSheet(u"QToolButton { border: 1px solid palette(window-text); }"_s);
     connect(m_cancel, &QToolButton::clicked, this, &TransferPanel::cancelRequested);
@@ -67,6 +65,22 @@ TransferPanel::TransferPanel(QWidget *parent)
     grid->addWidget(m_bar, 1, 0, 1, 2);
     grid->addWidget(m_cancel, 0, 2, 2, 1);
     grid->setColumnStretch(0, 1);
+    updateText();
+}
+
+void TransferPanel::updateText()
+{
+    m_bar->setAccessibleName(tr("Progress of the transfer"));
+    m_cancel->setText(tr("Cancel"));
+    m_cancel->setAccessibleName(tr("Cancel the transfer"));
+}
+
+void TransferPanel::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateText();
+    }
 }
 
 void TransferPanel::begin(const QString &title)

@@ -27,8 +27,10 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void updateText();
     void elide();
 
     QLabel *m_file;

@@ -1,5 +1,6 @@
 #include "TransferView.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -51,8 +52,8 @@ TransferView::TransferView(const FileStores &stores, LinkWatch *link, QWidget *p
     , m_left(new FilePane(stores, link, true, this))
     , m_right(new FilePane(stores, link, true, this))
     , m_active(m_left)
-    , m_toRight(makeArrow(u"CopyToRight"_s, u"forward"_s, tr("Copy to the right side")))
-    , m_toLeft(makeArrow(u"CopyToLeft"_s, u"back"_s, tr("Copy to the left side")))
+    , m_toRight(FilesTheme::toolButton(u"CopyToRight"_s, u"forward"_s, this))
+    , m_toLeft(FilesTheme::toolButton(u"CopyToLeft"_s, u"back"_s, this))
     , m_panel(new TransferPanel(this))
     , m_questions(new ConflictQuestions(this))
 {
@@ -69,6 +70,7 @@ TransferView::TransferView(const FileStores &stores, LinkWatch *link, QWidget *p
     connect(m_link, &LinkWatch::lost, this, &TransferView::updateArrows);
     connect(m_link, &LinkWatch::restored, this, &TransferView::updateArrows);
     arrange();
+    updateText();
     m_left->setActive(true);
     updateArrows();
 }
@@ -78,11 +80,18 @@ TransferView::~TransferView()
     delete m_transfer; // before the questions that it may still ask
 }
 
-QToolButton *TransferView::makeArrow(const QString &name, const QString &icon, const QString &text)
+void TransferView::updateText()
 {
-    QToolButton *button = FilesTheme::toolButton(name, icon, this);
-    FilesTheme::setName(button, text);
-    return button;
+    FilesTheme::setName(m_toRight, tr("Copy to the right side"));
+    FilesTheme::setName(m_toLeft, tr("Copy to the left side"));
+}
+
+void TransferView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateText();
+    }
 }
 
 void TransferView::arrange()

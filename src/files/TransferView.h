@@ -34,9 +34,12 @@ public Q_SLOTS:
 Q_SIGNALS:
     void transferEnded();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void updateText();
     void arrange();
-    QToolButton *makeArrow(const QString &name, const QString &icon, const QString &text);
     void setActive(FilePane *pane);
     void updateArrows();
     void carry(FilePane *from, FilePane *to);

@@ -1,4 +1,5 @@
 #include <QAbstractButton>
+#include <QAbstractItemModelTester>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
@@ -8,6 +9,7 @@
 #include <QTest>
 #include <QTreeView>
 
+#include <dialogs/QvexMessageBox.h>
 #include <files/FwLoadSaveDialog.h>
 #include <files/QvexLocalFileModel.h>
 #include <files/QvexRemoteFileModel.h>
@@ -60,6 +62,11 @@ public:
 
     void open(const QString &awaited = u"b9.trc"_s)
     {
+        for (auto *each : dialog->findChildren<QTreeView *>(u"FileList"_s)) {
+            using Tester = QAbstractItemModelTester;
+            (new Tester(each->model(), Tester::FailureReportingMode::Fatal, each))
+                ->setUseFetchMore(false);
+        }
         dialog->open();
         QTRY_VERIFY(row(awaited, lists() - 1).isValid());
     }
@@ -158,6 +165,9 @@ private Q_SLOTS:
     void loadsTheTappedFile();
     void opensFoldersByTapAndKeys();
     void sortsAndFiltersWhatIsListed();
+    void rowsThatComeAboveMoveNothing();
+    void hostileNamesStayInTheirLine();
+    void listsOnlyFilesOfAnApplicationOnDemand();
     void selectsSeveralByTapsOnly();
     void dragScrollsAndSelectsNothing();
     void savesUnderNamesThatCanBe_data();
@@ -248,6 +258,56 @@ void tst_loadsave::sortsAndFiltersWhatIsListed()
     QTest::keyClicks(bench.part<QLineEdit>(u"SearchEdit"_s), u"B1"_s);
     QCOMPARE(bench.names().size(), 2);
     QVERIFY(!bench.names().contains(u"b9.trc"_s));
+}
+
+void tst_loadsave::rowsThatComeAboveMoveNothing()
+{
+    Bench bench(Mode::Load);
+    for (int i = 0; i < 80; ++i) {
+        writeFile(bench.local(u"many%1.trc"_s.arg(i)), {});
+    }
+    bench.open();
+    QTRY_VERIFY(bench.names().size() > 80);
+    bench.tapRow(u"many40.trc"_s);
+    const QPersistentModelIndex first = bench.list()->indexAt({nameX, 0});
+    QVERIFY(first.row() > 0);
+    const int before = bench.list()->visualRect(first).top();
+    for (int i = 0; i < 40; ++i) { // in more places than are told one by one
+        writeFile(bench.local(u"many%1a.trc"_s.arg(i)), {});
+    }
+    QVERIFY(QFile::remove(bench.local(u"b9.trc"_s)));
+    QTRY_VERIFY(bench.row(u"many0a.trc"_s).isValid() && !bench.row(u"b9.trc"_s).isValid());
+    QTRY_COMPARE(bench.list()->visualRect(first).top(), before);
+    QVERIFY(bench.list()->selectionModel()->isSelected(bench.row(u"many40.trc"_s)));
+}
+
+void tst_loadsave::hostileNamesStayInTheirLine()
+{
+    Bench bench(Mode::Load);
+    const QString name = u"a\nb\u202Ecrt.exe"_s;
+    writeFile(bench.local(name), {});
+    bench.open(name);
+    bench.tapRow(name);
+    bench.key(Qt::Key_Delete);
+    QTRY_VERIFY(QvexDialog::activeDialog() != bench.dialog);
+    const auto *box = qobject_cast<QvexMessageBox *>(QvexDialog::activeDialog());
+    QCOMPARE(box->detailedText(), u"a\u240Ab\uFFFD202Ecrt.exe"_s);
+    answer(u"Cancel"_s);
+}
+
+void tst_loadsave::listsOnlyFilesOfAnApplicationOnDemand()
+{
+    Bench bench(Mode::Load);
+    const QByteArray head =
+        "<?xml version=\"1.0\"?>\n<!DOCTYPE VEX>\n<Vex>\n<AppType>%</AppType>\n";
+    writeFile(bench.local(u"own.set"_s), QByteArray(head).replace('%', "Scope"));
+    writeFile(bench.local(u"other.set"_s), QByteArray(head).replace('%', "Meter"));
+    bench.dialog->setVexFilters({}, {u"set"_s});
+    bench.dialog->setHeadFilter(u"Scope"_s, {});
+    bench.open(u"own.set"_s);
+    QTRY_VERIFY(bench.row(u"own.set"_s).isValid() && !bench.row(u"other.set"_s).isValid());
+    bench.tap(u"HeadButton"_s);
+    QTRY_VERIFY(bench.row(u"other.set"_s).isValid());
 }
 
 void tst_loadsave::selectsSeveralByTapsOnly()
