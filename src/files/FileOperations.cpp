@@ -134,9 +134,12 @@ void FileOperations::paste(const QString &folder)
         return;
     }
     if (m_moves) {
-        start(m_model->moveFileDirectory(m_pickedUp, folder), tr("Moving\u2026"), tr("Moved."));
-        m_pickedUp.clear(); // they are no longer there
-        Q_EMIT pickedUp();
+        const long result = m_model->moveFileDirectory(m_pickedUp, folder);
+        start(result, tr("Moving\u2026"), tr("Moved."));
+        if (result == QvexFileModel::Done) {
+            m_pickedUp.clear(); // they are no longer there
+            Q_EMIT pickedUp();
+        }
     } else {
         copy(m_pickedUp, folder);
     }

@@ -14,6 +14,7 @@
 #include <files/QvexLocalFileModel.h>
 #include <files/QvexRemoteFileModel.h>
 
+#include <functional>
 #include <memory>
 
 #include "GuardedTest.h"
@@ -180,6 +181,8 @@ private Q_SLOTS:
     void carriesBothWays();
     void asksAboutConflictsOnce();
     void closingWhileCopyingCancels();
+    void mayGoAtAnyMoment_data();
+    void mayGoAtAnyMoment();
     void saysThatTheLinkIsLostAndRecovers();
     void fitsTheScreen_data();
     void fitsTheScreen();
@@ -499,6 +502,40 @@ void tst_loadsave::closingWhileCopyingCancels()
     QTRY_COMPARE(QvexDialog::activeDialog()->objectName(), u"ConflictDialog"_s);
     delete bench.dialog; // the transfer's end must not wait for the person
     QCOMPARE(contentsOf(folder + u"b9.trc"_s), "old");
+}
+
+void tst_loadsave::mayGoAtAnyMoment_data()
+{
+    using Act = std::function<void(Bench &)>;
+    QTest::addColumn<Act>("act");
+    QTest::newRow("listing") << Act(
+        [](Bench &bench) { bench.dialog->setFolder(Place::Instrument, u"/Internal"_s); });
+    QTest::newRow("overwrite question") << Act([](Bench &bench) { bench.tap(u"CommitButton"_s); });
+    QTest::newRow("delete question") << Act([](Bench &bench) { bench.key(Qt::Key_Delete); });
+    QTest::newRow("renaming") << Act([](Bench &bench) { bench.key(Qt::Key_F2); });
+    QTest::newRow("copying") << Act([](Bench &bench) {
+        bench.tap(u"Action_copy"_s);
+        bench.tapRow(u"deep"_s);
+        bench.tap(u"Action_paste"_s);
+    });
+    QTest::newRow("chosen") << Act([](Bench &bench) {
+        connect(bench.dialog, &FwLoadSaveDialog::filesChosen, bench.dialog,
+                [&bench] { delete std::exchange(bench.dialog, nullptr); });
+        bench.part<QLineEdit>(u"NameEdit"_s)->setText(u"new"_s);
+        bench.tap(u"CommitButton"_s);
+    });
+}
+
+void tst_loadsave::mayGoAtAnyMoment()
+{
+    QFETCH(std::function<void(Bench &)>, act);
+    Bench bench(Mode::Save, m_link->proxy());
+    bench.open();
+    bench.tapRow(u"b9.trc"_s);
+    act(bench);
+    delete bench.dialog;
+    QTest::qWait(20); // for what was under way to be told to nobody
+    QVERIFY(!QvexDialog::activeDialog());
 }
 
 void tst_loadsave::saysThatTheLinkIsLostAndRecovers()
