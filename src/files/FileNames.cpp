@@ -38,9 +38,9 @@ QString sign(QChar c)
     return QChar(QChar::ReplacementCharacter) + QString::number(byteOrCode, 16).toUpper();
 }
 
-QString tr(const char *text)
+QString say(const char *text)
 {
-    return QCoreApplication::translate("FileTransfer", text);
+    return QCoreApplication::translate("FileNames", text);
 }
 
 } // namespace
@@ -49,13 +49,14 @@ QString FileNames::complaintAbout(const QString &name)
 {
     if (name.isEmpty() || name == "."_L1 || name == ".."_L1 || name.contains(u'/')
         || name.contains(QChar::Null)) {
-        return tr("this is not the name of a file");
+        return say(QT_TRANSLATE_NOOP("FileNames", "this is not the name of a file"));
     }
     if (!name.isValidUtf16()) {
-        return tr("its name holds bytes that are no text");
+        return say(QT_TRANSLATE_NOOP("FileNames", "its name holds bytes that are no text"));
     }
     if (name.toUtf8().size() > LongestName) {
-        return tr("the name is longer than %1 bytes").arg(LongestName);
+        return say(QT_TRANSLATE_NOOP("FileNames", "the name is longer than %1 bytes"))
+            .arg(LongestName);
     }
     return {};
 }

@@ -14,16 +14,22 @@ QString say(const char *text)
     return QCoreApplication::translate("FileQuestions", text);
 }
 
+/// Languages with more than one plural choose by the number.
+QString say(const char *plural, int count)
+{
+    return QCoreApplication::translate("FileQuestions", plural, nullptr, count).arg(count);
+}
+
 QString filesText(int files)
 {
     return files == 1 ? say(QT_TRANSLATE_NOOP("FileQuestions", "1 file"))
-                      : say(QT_TRANSLATE_NOOP("FileQuestions", "%1 files")).arg(files);
+                      : say(QT_TRANSLATE_N_NOOP("FileQuestions", "%1 files"), files);
 }
 
 QString foldersText(int folders)
 {
     return folders == 1 ? say(QT_TRANSLATE_NOOP("FileQuestions", "1 folder"))
-                        : say(QT_TRANSLATE_NOOP("FileQuestions", "%1 folders")).arg(folders);
+                        : say(QT_TRANSLATE_N_NOOP("FileQuestions", "%1 folders"), folders);
 }
 
 QString outcomeText(const TransferSummary &summary)

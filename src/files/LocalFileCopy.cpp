@@ -16,9 +16,9 @@ namespace {
 
 constexpr qsizetype ChunkSize = 1 << 20;
 
-QString tr(const char *text)
+QString say(const char *text)
 {
-    return QCoreApplication::translate("FileTransfer", text);
+    return QCoreApplication::translate("LocalFileCopy", text);
 }
 
 FileDescriptor openFile(const QString &path, int flags, mode_t mode = 0)
@@ -28,13 +28,15 @@ FileDescriptor openFile(const QString &path, int flags, mode_t mode = 0)
 
 TransferStep readFailed()
 {
-    return TransferStep::failed(tr("it cannot be read: %1").arg(qt_error_string(errno)));
+    return TransferStep::failed(say(QT_TRANSLATE_NOOP("LocalFileCopy", "it cannot be read: %1"))
+                                    .arg(qt_error_string(errno)));
 }
 
 TransferStep writeFailed()
 {
     const bool isFull = errno == ENOSPC || errno == EDQUOT;
-    const QString reason = tr("it cannot be written: %1").arg(qt_error_string(errno));
+    const QString reason = say(QT_TRANSLATE_NOOP("LocalFileCopy", "it cannot be written: %1"))
+                               .arg(qt_error_string(errno));
     return isFull ? TransferStep::fatal(reason) : TransferStep::failed(reason);
 }
 
@@ -100,7 +102,8 @@ TransferStep LocalFileCopy::copy(const QString &source, const QString &target,
         return readFailed();
     }
     if (!S_ISREG(status.st_mode)) {
-        return TransferStep::failed(tr("it is no file any more"));
+        return TransferStep::failed(
+            say(QT_TRANSLATE_NOOP("LocalFileCopy", "it is no file any more")));
     }
     const FileDescriptor to = openFile(target, O_WRONLY | O_CREAT | O_EXCL, 0600);
     if (!to) {

@@ -9,6 +9,8 @@
 /** A folder of the local disk as the target of a transfer. */
 class LocalTarget : public TransferTarget
 {
+    Q_DECLARE_TR_FUNCTIONS(LocalTarget)
+
 public:
     TransferStep find(const QString &folder, const QString &name,
                       std::optional<Entry> &entry) override;

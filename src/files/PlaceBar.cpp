@@ -12,6 +12,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// What a button's frame and the gaps beside its icon and text take, in pixels.
+constexpr int aroundText = 40;
+
 /// A button whose text gives way in the middle.
 class PlaceButton : public QToolButton
 {
@@ -27,7 +30,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override
     {
         QToolButton::resizeEvent(event);
-        const int room = event->size().width() - FilesTheme::entryIcon - 32;
+        const int room = event->size().width() - FilesTheme::entryIcon - aroundText;
         const QString name = FileNames::shown(accessibleName());
         setText(u' '
                 + FilePaths::buttonText(fontMetrics().elidedText(name, Qt::ElideMiddle, room)));

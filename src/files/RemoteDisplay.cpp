@@ -61,7 +61,8 @@ QString RemoteDisplay::errorText(long result)
             return translated(known.text);
         }
     }
-    return translated("The instrument reported error %1.").arg(result);
+    return translated(QT_TRANSLATE_NOOP("QvexRemoteFileModel", "The instrument reported error %1."))
+        .arg(result);
 }
 
 QIcon RemoteDisplay::Icons::icon(Kind kind)

@@ -8,6 +8,8 @@ class TransferLink;
 /** The instrument as the source of a transfer. What its links point to is carried. */
 class RemoteSource : public TransferSource
 {
+    Q_DECLARE_TR_FUNCTIONS(RemoteSource)
+
 public:
     explicit RemoteSource(const TransferLink *link);
 

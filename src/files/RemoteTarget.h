@@ -20,6 +20,8 @@ class TransferLink;
  */
 class RemoteTarget : public TransferTarget
 {
+    Q_DECLARE_TR_FUNCTIONS(RemoteTarget)
+
 public:
     explicit RemoteTarget(const TransferLink *link);
 

@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>Zusammenfassung</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>Bedienelemente der Anwendung</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -343,6 +347,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>Der Name dieses Eintrags kann nicht verwendet werden.</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>Nur %1</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>Nur Dateien von %1 anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -373,17 +385,23 @@
         <source>1 file</source>
         <translation>1 Datei</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>%1 Dateien</translation>
+        <translation>
+            <numerusform>%1 Datei</numerusform>
+            <numerusform>%1 Dateien</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation>1 Ordner</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>%1 Ordner</translation>
+        <translation>
+            <numerusform>%1 Ordner</numerusform>
+            <numerusform>%1 Ordner</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -704,6 +722,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>keine Datei mehr</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>sie kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>sie kann nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1246,10 @@ Bitte geben Sie das richtige Passwort ein!</translation>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>Der Speicher des Geräts ist voll.</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>Das Gerät hat den Fehler %1 gemeldet.</translation>
     </message>
 </context>
 <context>

@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -343,6 +347,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -373,17 +385,23 @@
         <source>1 file</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>
+            <numerusform>%1 files</numerusform>
+            <numerusform>%1 files</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation type="unfinished"></translation>
+        <translation>
+            <numerusform>%1 folders</numerusform>
+            <numerusform>%1 folders</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -703,6 +721,14 @@
     <name>LocalFileCopy</name>
     <message>
         <source>it is no file any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1218,6 +1244,10 @@ Please Type Correct Password!</source>
     </message>
     <message>
         <source>The instrument&apos;s storage is full.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

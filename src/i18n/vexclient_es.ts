@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>Resumen</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>Controles de la aplicación</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -343,6 +347,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>No se puede usar el nombre de este elemento.</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>Solo %1</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>Mostrar solo los archivos de %1</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -373,17 +385,23 @@
         <source>1 file</source>
         <translation>1 archivo</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>%1 archivos</translation>
+        <translation>
+            <numerusform>%1 archivo</numerusform>
+            <numerusform>%1 archivos</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation>1 carpeta</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>%1 carpetas</translation>
+        <translation>
+            <numerusform>%1 carpeta</numerusform>
+            <numerusform>%1 carpetas</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -704,6 +722,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>ya no es un archivo</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>no se puede escribir: %1</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1246,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>El almacenamiento del instrumento está lleno.</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>El instrumento ha comunicado el error %1.</translation>
     </message>
 </context>
 <context>

@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>Résumé</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>Commandes de l&apos;application</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -343,6 +347,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>Le nom de cet élément ne peut pas être utilisé.</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>%1 seulement</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>N&apos;afficher que les fichiers de %1</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -373,17 +385,23 @@
         <source>1 file</source>
         <translation>1&#xa0;fichier</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>%1&#xa0;fichiers</translation>
+        <translation>
+            <numerusform>%1 fichier</numerusform>
+            <numerusform>%1 fichiers</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation>1&#xa0;dossier</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>%1&#xa0;dossiers</translation>
+        <translation>
+            <numerusform>%1 dossier</numerusform>
+            <numerusform>%1 dossiers</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -704,6 +722,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>ce n&apos;est plus un fichier</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>lecture impossible : %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>écriture impossible : %1</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1246,10 @@ Veuillez saisir le mot de passe correct&#xa0;!</translation>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>La mémoire de l&apos;instrument est pleine.</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>L&apos;instrument a signalé l&apos;erreur %1.</translation>
     </message>
 </context>
 <context>

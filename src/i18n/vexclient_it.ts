@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>Riepilogo</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>Comandi dell&apos;applicazione</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -346,6 +350,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>Il nome di questo elemento non può essere usato.</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>Solo %1</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>Mostra solo i file di %1</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -376,17 +388,23 @@
         <source>1 file</source>
         <translation>1 file</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>%1 file</translation>
+        <translation>
+            <numerusform>%1 file</numerusform>
+            <numerusform>%1 file</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation>1 cartella</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>%1 cartelle</translation>
+        <translation>
+            <numerusform>%1 cartella</numerusform>
+            <numerusform>%1 cartelle</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -707,6 +725,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>non è più un file</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>impossibile leggerlo: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>impossibile scriverlo: %1</translation>
     </message>
 </context>
 <context>
@@ -1225,6 +1251,10 @@ Digitare la password corretta.</translation>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>La memoria dello strumento è piena.</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>Lo strumento ha segnalato l&apos;errore %1.</translation>
     </message>
 </context>
 <context>

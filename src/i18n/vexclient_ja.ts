@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>概要</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>アプリケーションの操作</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -343,6 +347,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>この項目の名前は使用できません。</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>%1 のみ</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>%1 のファイルだけを表示</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -373,17 +385,21 @@
         <source>1 file</source>
         <translation>1 個のファイル</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>%1 個のファイル</translation>
+        <translation>
+            <numerusform>%1 個のファイル</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation>1 個のフォルダ</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>%1 個のフォルダ</translation>
+        <translation>
+            <numerusform>%1 個のフォルダー</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -704,6 +720,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>もうファイルではありません</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>書き込めません: %1</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1244,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>測定器のストレージがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>測定器がエラー %1 を報告しました。</translation>
     </message>
 </context>
 <context>

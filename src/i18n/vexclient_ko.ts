@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>요약</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>응용 프로그램 제어</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -343,6 +347,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>이 항목의 이름은 사용할 수 없습니다.</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>%1만</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>%1의 파일만 표시</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -373,17 +385,21 @@
         <source>1 file</source>
         <translation>파일 1개</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>파일 %1개</translation>
+        <translation>
+            <numerusform>파일 %1개</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation>폴더 1개</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>폴더 %1개</translation>
+        <translation>
+            <numerusform>폴더 %1개</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -704,6 +720,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>더 이상 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>읽을 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>쓸 수 없음: %1</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1244,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>계측기의 저장 공간이 가득 찼습니다.</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>계측기가 오류 %1을(를) 보고했습니다.</translation>
     </message>
 </context>
 <context>

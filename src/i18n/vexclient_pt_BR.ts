@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>Resumo</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>Controles do aplicativo</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -346,6 +350,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>O nome deste item não pode ser usado.</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>Somente %1</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>Mostrar somente os arquivos de %1</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -376,17 +388,23 @@
         <source>1 file</source>
         <translation>1 arquivo</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>%1 arquivos</translation>
+        <translation>
+            <numerusform>%1 arquivo</numerusform>
+            <numerusform>%1 arquivos</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation>1 pasta</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>%1 pastas</translation>
+        <translation>
+            <numerusform>%1 pasta</numerusform>
+            <numerusform>%1 pastas</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -707,6 +725,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>não é mais um arquivo</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>não é possível lê-lo: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>não é possível gravá-lo: %1</translation>
     </message>
 </context>
 <context>
@@ -1225,6 +1251,10 @@ Digite a senha correta.</translation>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>O armazenamento do instrumento está cheio.</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>O instrumento informou o erro %1.</translation>
     </message>
 </context>
 <context>

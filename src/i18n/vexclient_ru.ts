@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>Сводка</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>Элементы управления приложения</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -346,6 +350,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>Имя этого объекта нельзя использовать.</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>Только %1</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>Показывать только файлы %1</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -376,18 +388,26 @@
         <source>1 file</source>
         <translation>1 файл</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>файлы (%1)</translation>
+        <translation>
+            <numerusform>%1 файл</numerusform>
+            <numerusform>%1 файла</numerusform>
+            <numerusform>%1 файлов</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translatorcomment>Accusative: stands for %1 of “Delete %1 from %2?”.</translatorcomment>
         <translation>1 папку</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>папки (%1)</translation>
+        <translation>
+            <numerusform>%1 папку</numerusform>
+            <numerusform>%1 папки</numerusform>
+            <numerusform>%1 папок</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -708,6 +728,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>это больше не файл</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>не удаётся прочитать: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>не удаётся записать: %1</translation>
     </message>
 </context>
 <context>
@@ -1226,6 +1254,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>Память прибора заполнена.</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>Прибор сообщил об ошибке %1.</translation>
     </message>
 </context>
 <context>

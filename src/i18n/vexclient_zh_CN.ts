@@ -61,6 +61,10 @@
         <source>Summary</source>
         <translation>摘要</translation>
     </message>
+    <message>
+        <source>Application controls</source>
+        <translation>应用程序控件</translation>
+    </message>
 </context>
 <context>
     <name>BreadcrumbBar</name>
@@ -343,6 +347,14 @@
         <source>This entry&apos;s name can&apos;t be used.</source>
         <translation>此项目的名称无法使用。</translation>
     </message>
+    <message>
+        <source>Only %1</source>
+        <translation>仅 %1</translation>
+    </message>
+    <message>
+        <source>List only files of %1</source>
+        <translation>仅列出 %1 的文件</translation>
+    </message>
 </context>
 <context>
     <name>FilePaths</name>
@@ -373,17 +385,21 @@
         <source>1 file</source>
         <translation>1 个文件</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 files</source>
-        <translation>%1 个文件</translation>
+        <translation>
+            <numerusform>%1 个文件</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 folder</source>
         <translation>1 个文件夹</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 folders</source>
-        <translation>%1 个文件夹</translation>
+        <translation>
+            <numerusform>%1 个文件夹</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -704,6 +720,14 @@
     <message>
         <source>it is no file any more</source>
         <translation>它已不再是文件</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>无法写入：%1</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1244,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument&apos;s storage is full.</source>
         <translation>仪器的存储空间已满。</translation>
+    </message>
+    <message>
+        <source>The instrument reported error %1.</source>
+        <translation>仪器报告了错误 %1。</translation>
     </message>
 </context>
 <context>
