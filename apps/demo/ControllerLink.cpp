@@ -1,5 +1,10 @@
 #include "ControllerLink.h"
 
+#include "Logging.h"
+#include "Wording.h"
+
+#include <QVariant>
+
 #include <corba/AppFcpCORBAImpl.h>
 #include <corba/BiDirectionalCORBA.h>
 #include <corba/FcpAppCORBA.h>
@@ -100,10 +105,12 @@ void ControllerLink::followState(State state, const QString &reason)
 {
     const bool wasUp = isUp();
     m_state = state;
-    m_reason = reason;
-    Q_EMIT stateChanged(state, reason);
+    m_reason = Wording::linkReason(reason);
+    qCInfo(lcMeter).noquote().nospace()
+        << "link " << QVariant::fromValue(state).toString() << ": " << reason;
+    Q_EMIT stateChanged(state, m_reason);
     if (wasUp && !isUp()) {
-        Q_EMIT lost(reason);
+        Q_EMIT lost(m_reason);
     } else if (!wasUp && isUp()) {
         askController();
         listTests();

@@ -1,5 +1,7 @@
 #include "Meter.h"
 
+#include "Logging.h"
+
 #include <algorithm>
 
 using namespace std::chrono_literals;
@@ -259,6 +261,7 @@ void Meter::finish(Run::Ending ending, RunEvent::Kind kind, const QString &text)
 
 void Meter::addEvent(RunEvent::Kind kind, const QString &text)
 {
+    qCInfo(lcMeter).noquote() << "run:" << text;
     m_run.events.append({elapsed(), kind, text});
     Q_EMIT eventAdded(m_run.events.constLast());
 }

@@ -1,7 +1,9 @@
 #include "MeterWindow.h"
 
+#include "ControlButtons.h"
 #include "ControllerLink.h"
 #include "LinkPanel.h"
+#include "LogPanel.h"
 #include "Look.h"
 #include "Meter.h"
 #include "ResultFiles.h"
@@ -11,6 +13,9 @@
 #include "StatusChip.h"
 #include "TestPage.h"
 #include "Toast.h"
+
+#include <QApplication>
+#include <QEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -66,6 +71,35 @@ void MeterWindow::makePanels()
     connect(m_linkChip, &QAbstractButton::clicked, this, [this] { showMiniMcPanel(m_linkPanel); });
     m_toast = new Toast(this);
     connect(this, &ClientGUIBase::showToast, m_toast, &Toast::showText);
+    m_logPanel = new LogPanel;
+    registerCustomPanelWidget(m_logPanel);
+    makeControlButtons();
+    qApp->installEventFilter(this);
+}
+
+void MeterWindow::makeControlButtons()
+{
+    m_controlButtons = new ControlButtons;
+    registerMissionControlWidget(m_controlButtons);
+    connect(m_controlButtons, &ControlButtons::logWanted, this, [this] {
+        contractMisionControl();
+        showCustomPanel();
+    });
+    connect(m_controlButtons, &ControlButtons::autoSaveWanted, this,
+            [this](bool on) { setAutoSave(on ? 1 : 0); });
+}
+
+bool MeterWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
+        const auto *touched = qobject_cast<QWidget *>(watched);
+        for (const QWidget *page : std::initializer_list<QWidget *> {m_setup, m_test, m_result}) {
+            if (touched && (touched == page || page->isAncestorOf(touched))) {
+                hideMiniMcPanel(m_linkPanel);
+            }
+        }
+    }
+    return ClientGUIBase::eventFilter(watched, event);
 }
 
 void MeterWindow::connectRun()
@@ -108,6 +142,8 @@ void MeterWindow::connectFiles()
     connect(m_result, &ResultPage::uploadWanted, m_files.get(), &ResultFiles::upload);
     connect(m_result, &ResultPage::transferWanted, m_files.get(), &ResultFiles::transfer);
     connect(m_result, &ResultPage::deleteWanted, m_files.get(), &ResultFiles::remove);
+    connect(m_files.get(), &ResultFiles::uploadProgressed, m_result, &ResultPage::showUpload);
+    connect(m_files.get(), &ResultFiles::uploaded, m_result, &ResultPage::endUpload);
     connect(this, &ClientGUIBase::loadFileToViewRequested, m_files.get(), &ResultFiles::open);
 }
 
@@ -148,9 +184,8 @@ void MeterWindow::applyProperty(long id)
         // Only names that it knows: the file could hold anything.
         const bool isLight = m_settings.text(Settings::Theme) == u"light"_s;
         setColorTheme({isLight ? u"light"_s : u"dark"_s});
-        for (QWidget *part :
-             {static_cast<QWidget *>(m_setup), static_cast<QWidget *>(m_test),
-              static_cast<QWidget *>(m_result), static_cast<QWidget *>(m_linkPanel)}) {
+        for (QWidget *part : std::initializer_list<QWidget *> {
+                 m_setup, m_test, m_result, m_linkPanel, m_logPanel, m_controlButtons}) {
             part->setStyleSheet(Look::sheet());
         }
     } else if (id == Settings::Language) {

@@ -4,8 +4,10 @@
 
 #include "Language.h"
 
+class ControlButtons;
 class ControllerLink;
 class LinkPanel;
+class LogPanel;
 class Meter;
 class ResultFiles;
 class ResultPage;
@@ -35,6 +37,8 @@ public:
     bool hasUnsavedRun() const;
 
     void updateText() override;
+    /// Shuts the link's panel when the page beside it is touched.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
     /// Begins a run with the settings of the moment, and shows it.
@@ -46,6 +50,7 @@ protected:
 private:
     void makeWindows();
     void makePanels();
+    void makeControlButtons();
     void connectRun();
     void connectFiles();
     void connectLink();
@@ -63,6 +68,8 @@ private:
     TestPage *m_test;
     ResultPage *m_result;
     LinkPanel *m_linkPanel;
+    LogPanel *m_logPanel;
+    ControlButtons *m_controlButtons;
     StatusChip *m_linkChip;
     Toast *m_toast;
     bool m_isSaved = true;

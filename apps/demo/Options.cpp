@@ -16,6 +16,7 @@ void declare(QCommandLineParser &parser)
         {u"no-link"_s, {}},
         {u"properties"_s, {}, u"DIR"_s},
         {u"results"_s, {}, u"DIR"_s},
+        {u"size"_s, {}, u"WIDTHxHEIGHT"_s},
         {u"tour"_s, {}, u"DIR"_s},
         {u"appId"_s, {}, u"ID"_s},
         {u"appColor"_s, {}, u"R,G,B"_s},
@@ -33,6 +34,21 @@ void readAddress(const QString &text, Options &options)
     }
     options.host = text.left(colon);
     options.port = port;
+}
+
+void readSize(const QString &text, Options &options)
+{
+    bool isWidth = false;
+    bool isHeight = false;
+    const QSize size(text.section(u'x', 0, 0).toInt(&isWidth),
+                     text.section(u'x', 1).toInt(&isHeight));
+    // The least is the frame's.
+    if (!isWidth || !isHeight || size.width() < 800 || size.height() < 480 || size.width() > 7680
+        || size.height() > 4320) {
+        options.error = u"--size wants 800x480 to 7680x4320, not '%1'"_s.arg(text);
+        return;
+    }
+    options.size = size;
 }
 
 QString folder(const QCommandLineParser &parser, const QString &option, const QString &standard)
@@ -75,6 +91,9 @@ Options Options::parse(const QStringList &words)
     if (options.error.isEmpty() && parser.isSet(u"fcp"_s)) {
         readAddress(parser.value(u"fcp"_s), options);
     }
+    if (options.error.isEmpty() && parser.isSet(u"size"_s)) {
+        readSize(parser.value(u"size"_s), options);
+    }
     options.settingsFolder = folder(parser, u"properties"_s, u"settings"_s);
     options.resultsFolder = folder(parser, u"results"_s, u"results"_s);
     if (parser.isSet(u"tour"_s)) {
@@ -86,16 +105,17 @@ Options Options::parse(const QStringList &words)
 QString Options::helpText()
 {
     return uR"(usage: level-meter [--fcp HOST:PORT | --no-link] [--properties DIR] [--results DIR]
-                   [--appId=ID] [--appColor=R,G,B]
-       level-meter --tour DIR
+                   [--size WIDTHxHEIGHT] [--appId=ID] [--appColor=R,G,B]
+       level-meter --tour DIR [--size WIDTHxHEIGHT]
 
 Measures the level and the bit errors of a received signal: an example of an instrument
 application. The values are made up; the test that they belong to is launched at the controller.
 
   --fcp HOST:PORT    the controller; 127.0.0.1:5650 by default, where fcp-sim listens
   --no-link          do without a controller
-  --properties DIR   keep the settings in this folder
+  --properties DIR   keep the settings and the log in this folder
   --results DIR      save results in this folder
+  --size WIDTHxHEIGHT  of the window; 1280x800 by default, 800x480 at least
   --appId=ID         the application's id at the framework
   --appColor=R,G,B   the ground of the windows, three numbers from 0 to 255
   --tour DIR         show everything by itself, check it, and write pictures into DIR; starts the

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -12,6 +13,7 @@ struct Options
     QString settingsFolder; ///< where the settings are kept
     QString resultsFolder; ///< where results are saved first
     QString tourFolder; ///< where the tour's pictures go; empty: no tour
+    QSize size {1280, 800}; ///< of the window, and of the tour's screen
     bool help = false;
     QString error; ///< what is wrong with the command line; empty when nothing is
 

@@ -27,21 +27,23 @@ void dropPlatformTalk(QtMsgType type, const QMessageLogContext &context, const Q
 
 } // namespace
 
-Platform::Platform(bool isTour)
+Platform::Platform(bool isTour, QSize size)
 {
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     if (isTour && (platform.isEmpty() || platform == "offscreen")) {
-        useOffscreen();
+        useOffscreen(size);
     } else if (!hasDisplay()) {
         m_error = u"there is no display; --tour DIR needs none"_s;
     }
 }
 
 /// Without a description of its screen the platform has one of 800 by 800.
-void Platform::useOffscreen()
+void Platform::useOffscreen(QSize size)
 {
-    const auto screen = R"({"screens": [{"name": "panel", "x": 0, "y": 0, "width": 1280,
-        "height": 800, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})"_ba;
+    const QByteArray screen = uR"({"screens": [{"name": "panel", "x": 0, "y": 0, "width": %1,
+        "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})"_s.arg(size.width())
+                                  .arg(size.height())
+                                  .toUtf8();
     if (!m_screen.open() || m_screen.write(screen) != screen.size() || !m_screen.flush()) {
         m_error = u"can't write %1: %2"_s.arg(m_screen.fileName(), m_screen.errorString());
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QTemporaryFile>
 
@@ -7,8 +8,8 @@
 class Platform
 {
 public:
-    /// @p isTour: no display is needed, and the screen is 1280 by 800.
-    explicit Platform(bool isTour);
+    /// @p isTour: no display is needed, and the screen is of that size.
+    Platform(bool isTour, QSize size);
 
     /// Why nothing can be shown, in words; empty when it can.
     QString error() const { return m_error; }
@@ -16,7 +17,7 @@ public:
     static void setLook();
 
 private:
-    void useOffscreen();
+    void useOffscreen(QSize size);
 
     QTemporaryFile m_screen;
     QString m_error;

@@ -47,6 +47,7 @@ ResultFiles::ResultFiles(const QString &folder, ClientGUIBase &frame, FcpAppCORB
     , m_controller(controller)
 {
     QDir().mkpath(m_folder);
+    m_reader.setMaxThreadCount(1);
 }
 
 ResultFiles::~ResultFiles() = default;
@@ -88,13 +89,21 @@ void ResultFiles::write(const QString &path, const Run &run)
 
 void ResultFiles::open(const QString &path)
 {
-    RunFile file;
-    const QString error = file.read(path);
-    if (error.isEmpty()) {
-        Q_EMIT opened(path, file);
-    } else {
-        complain(error);
-    }
+    const int number = ++m_opened;
+    m_reader.start([this, path, number] {
+        if (number != m_opened) {
+            return;
+        }
+        RunFile file;
+        const QString error = file.read(path);
+        QMetaObject::invokeMethod(this, [=, this] {
+            if (!error.isEmpty()) {
+                complain(error);
+            } else if (number == m_opened) {
+                Q_EMIT opened(path, file);
+            }
+        });
+    });
 }
 
 void ResultFiles::browse()
@@ -120,6 +129,11 @@ void ResultFiles::upload(const QString &path)
     m_upload->setQuestions(&keepBoth);
     connect(m_upload.get(), &FileTransfer::finished, this,
             [this, path](const TransferSummary &summary) { uploadEnded(path, summary); });
+    connect(m_upload.get(), &FileTransfer::progressChanged, this,
+            [this](const TransferProgress &progress) {
+                Q_EMIT uploadProgressed(progress.bytesDone, progress.bytesTotal);
+            });
+    Q_EMIT uploadProgressed(0, 0);
     m_upload->start();
 }
 

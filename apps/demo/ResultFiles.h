@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QThreadPool>
 
+#include <atomic>
 #include <memory>
 
 #include "RunFile.h"
@@ -33,6 +35,7 @@ public Q_SLOTS:
     void save(const Run &run);
     /// Without a question, into folder().
     void saveAtOnce(const Run &run);
+    /// Reads it on a thread of its own. Of several at once, the last one is opened.
     void open(const QString &path);
     /// Asks which.
     void browse();
@@ -46,6 +49,7 @@ Q_SIGNALS:
     void saved(const QString &path);
     void opened(const QString &path, const RunFile &file);
     void removed(const QString &path);
+    void uploadProgressed(qint64 bytes, qint64 total);
     void uploaded(const QString &path, bool isDone);
 
 private:
@@ -60,4 +64,6 @@ private:
     FcpAppCORBA *const m_controller;
     QString m_serverId;
     std::unique_ptr<FileTransfer> m_upload;
+    std::atomic<int> m_opened = 0; ///< counts the files that open() was asked for
+    QThreadPool m_reader; ///< the last member: it waits for the thread, which uses the others
 };

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScroller>
 #include <QTableWidget>
@@ -118,7 +119,15 @@ QWidget *ResultPage::makeButtons()
         button->setMinimumWidth(200);
         layout->addWidget(button);
     }
-    layout->addStretch();
+    m_uploadBar = new QProgressBar(bar);
+    m_uploadBar->setObjectName(u"UploadProgress"_s);
+    m_uploadBar->setTextVisible(false);
+    m_uploadBar->setFixedHeight(16);
+    QSizePolicy policy = m_uploadBar->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_uploadBar->setSizePolicy(policy);
+    m_uploadBar->hide();
+    layout->addWidget(m_uploadBar, 1);
     connect(m_browse, &QPushButton::clicked, this, &ResultPage::browseWanted);
     connect(m_upload, &QPushButton::clicked, this, [this] { Q_EMIT uploadWanted(m_path); });
     connect(m_transfer, &QPushButton::clicked, this, &ResultPage::transferWanted);
@@ -167,6 +176,23 @@ void ResultPage::setCanUpload(bool canUpload)
     showButtons();
 }
 
+void ResultPage::showUpload(qint64 bytes, qint64 total)
+{
+    constexpr int steps = 1000;
+    m_isUploading = true;
+    m_uploadBar->setRange(0, total > 0 ? steps : 0);
+    m_uploadBar->setValue(total > 0 ? static_cast<int>(steps * bytes / total) : 0);
+    m_uploadBar->show();
+    showButtons();
+}
+
+void ResultPage::endUpload()
+{
+    m_isUploading = false;
+    m_uploadBar->hide();
+    showButtons();
+}
+
 void ResultPage::chooseCurrent()
 {
     Q_EMIT openWanted(m_list->currentItem()->data(Qt::UserRole).toString());
@@ -210,7 +236,7 @@ void ResultPage::addRow(const QString &name, const QString &value)
 
 void ResultPage::showButtons()
 {
-    m_upload->setEnabled(m_canUpload && !m_path.isEmpty());
+    m_upload->setEnabled(m_canUpload && !m_isUploading && !m_path.isEmpty());
     m_transfer->setEnabled(m_canUpload);
     m_delete->setEnabled(!m_path.isEmpty());
 }
@@ -237,6 +263,7 @@ void ResultPage::retranslate()
     m_table->setAccessibleName(tr("Figures of the result"));
     m_browse->setText(tr("Open another file"));
     m_upload->setText(tr("Upload to instrument"));
+    m_uploadBar->setAccessibleName(tr("Progress of the upload"));
     m_transfer->setText(tr("Files of instrument"));
     m_delete->setText(tr("Delete"));
     showDetails();

@@ -8,6 +8,7 @@ class EventList;
 class PlotPanel;
 class QLabel;
 class QListWidget;
+class QProgressBar;
 class QPushButton;
 class QTableWidget;
 class StatusChip;
@@ -28,6 +29,9 @@ public:
     /// The path of what is shown; empty when nothing is.
     QString path() const { return m_path; }
     void setCanUpload(bool canUpload);
+    /// An upload is under way. @p total is 0 as long as nobody knows it.
+    void showUpload(qint64 bytes, qint64 total);
+    void endUpload();
 
 Q_SIGNALS:
     /// A run was chosen from the list.
@@ -55,6 +59,7 @@ private:
     QString m_path;
     RunFile m_file;
     bool m_canUpload = false;
+    bool m_isUploading = false;
     QLabel *m_listHeading;
     QListWidget *m_list;
     QLabel *m_empty;
@@ -65,6 +70,7 @@ private:
     EventList *m_events;
     QPushButton *m_browse;
     QPushButton *m_upload;
+    QProgressBar *m_uploadBar;
     QPushButton *m_transfer;
     QPushButton *m_delete;
 };

@@ -21,6 +21,17 @@ namespace {
 constexpr quint64 widestPattern = 0xFFFFFFFF;
 constexpr int fieldWidth = 220;
 
+/// "⁻⁶" for -6
+QString superscript(double number)
+{
+    static const QString digits = u"⁰¹²³⁴⁵⁶⁷⁸⁹"_s;
+    QString raised;
+    for (const QChar sign : QString::number(qRound(number))) {
+        raised += sign == u'-' ? QChar(u'⁻') : digits[sign.digitValue()];
+    }
+    return raised;
+}
+
 } // namespace
 
 SetupPage::SetupPage(Settings &settings, QWidget *parent)
@@ -100,6 +111,7 @@ QWidget *SetupPage::makePatterns()
     addPattern(grid, new QLineEditBin(box), u"PatternBin"_s);
     addPattern(grid, new QLineEditCodingPAM4(box), u"PatternPam4"_s);
     m_patternHint = new QLabel(box);
+    m_patternHint->setObjectName(u"PatternHint"_s);
     m_patternHint->setWordWrap(true);
     m_lockedHint = new QLabel(box);
     m_lockedHint->setObjectName(u"LockedHint"_s);
@@ -195,6 +207,9 @@ void SetupPage::showProperty(long id)
             row.field->setValue(m_settings.value(row.id));
         }
     }
+    if (id == Settings::RatioExponent) {
+        retranslate();
+    }
 }
 
 void SetupPage::chooseTest()
@@ -280,8 +295,9 @@ void SetupPage::retranslateRow(const NumberRow &row)
     case Settings::Duration:
         return set(tr("Duration"), u"s"_s);
     case Settings::SampleRate:
-        return set(tr("Samples a second"), u"1/s"_s);
+        return set(tr("Samples per second"), {});
     default:
-        return set(tr("Error ratio limit: 10 to the power of"), {});
+        set(tr("Error ratio limit, power of 10"), {});
+        return row.unit->setText(u"10"_s + superscript(m_settings.value(row.id)));
     }
 }

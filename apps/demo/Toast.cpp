@@ -21,7 +21,7 @@ Toast::Toast(QWidget *parent)
 
 void Toast::showText(const QString &text, int milliseconds, int width, int height)
 {
-    constexpr int fromBottom = 90;
+    constexpr int fromBottom = 140; // above the buttons of the pages
     setText(text);
     setAccessibleName(text);
     const QSize needed = sizeHint() + QSize(48, 0);

@@ -35,6 +35,17 @@ void keepWithin(double &from, double &length, double least, double longestFrom, 
     from = std::clamp(from, longestFrom, std::max(longestFrom, longestFrom + longest - length));
 }
 
+/// Seconds of a trace that has come to @p last: it grows by steps, so that the trace of a long run
+/// is not at the edge for minutes, and stands still most of the time.
+double timeRange(double last, double duration)
+{
+    double range = 10;
+    while (range < last) {
+        range *= 2;
+    }
+    return std::max(last, std::min(range, duration));
+}
+
 } // namespace
 
 TracePlot::TracePlot(QWidget *parent)
@@ -147,7 +158,7 @@ void TracePlot::toggleMarkers()
     Q_EMIT markersChanged();
 }
 
-/// All of the run in time, and its levels with the threshold, on whole numbers.
+/// All that was measured of the run, and its levels with the threshold, on whole numbers.
 QRectF TracePlot::fullRange() const
 {
     if (!m_run) {
@@ -155,16 +166,16 @@ QRectF TracePlot::fullRange() const
     }
     double lowest = m_run->settings.threshold;
     double highest = lowest + 6;
-    double last = m_run->settings.duration;
+    double last = 0;
     if (m_run->figures().count() > 0) {
         lowest = std::min(lowest, m_run->figures().lowest());
         highest = std::max(highest, m_run->figures().highest());
-        last = std::max(last, m_run->samples().constLast().time);
+        last = m_run->samples().constLast().time;
     }
     const double bottom = std::floor(lowest - 1);
     // Six divisions of whole numbers, so that no label is cut.
     const double height = 6 * std::ceil((highest + 1 - bottom) / 6);
-    return {0, bottom, last, height};
+    return {0, bottom, timeRange(last, m_run->settings.duration), height};
 }
 
 void TracePlot::setRange(const QRectF &range)

@@ -40,6 +40,29 @@ QByteArray Wording::verdictColour(Verdict verdict)
     }
 }
 
+QString Wording::linkReason(const QString &reason)
+{
+    // "the link to HOST is lost: CAUSE; what follows of it (NAMES OF ERRORS)"
+    const QString cause = reason.section(u" ("_s, 0, 0).section(u": "_s, -1).section(u';', 0, 0);
+    const struct
+    {
+        QString known;
+        QString sentence;
+    } sentences[] = {
+        {u"no answer within the time-out"_s, tr("The instrument did not answer in time.")},
+        {u"the connection broke during a call"_s, tr("The connection broke.")},
+        {u"nothing answers at that address"_s, tr("Nothing answers at that address.")},
+        {u"the connection was closed"_s, tr("The connection was closed.")},
+        {u"there is no controller at that address"_s, tr("There is no instrument there.")},
+    };
+    for (const auto &sentence : sentences) {
+        if (cause == sentence.known) {
+            return sentence.sentence;
+        }
+    }
+    return cause.isEmpty() ? cause : cause.at(0).toUpper() + cause.mid(1);
+}
+
 QString Wording::level(double level)
 {
     return u"%1 dBm"_s.arg(level, 0, 'f', 2);

@@ -16,6 +16,9 @@ public:
     /// The theme's colour of a verdict; empty for none.
     static QByteArray verdictColour(Verdict verdict);
 
+    /// The cause alone of what the library says of a link: no names of errors, no address.
+    static QString linkReason(const QString &reason);
+
     /// "-13.72 dBm"
     static QString level(double level);
     /// "1.2e-09", "0" without errors.

@@ -12,7 +12,10 @@
 #include "tour/Tour.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QTemporaryDir>
+
+#include <frame/FwLog.h>
 
 #include <cstdio>
 
@@ -36,6 +39,7 @@ int run(const Options &options, QVector<QString> &words)
     Meter meter(std::make_unique<SimulatedSource>());
     MeterWindow window(words, settings, meter, link, options.resultsFolder);
     const Framework framework(window, meter, link);
+    window.resize(options.size);
     window.show();
     if (options.tourFolder.isEmpty()) {
         if (options.useLink) {
@@ -52,6 +56,17 @@ int run(const Options &options, QVector<QString> &words)
         QApplication::exec();
     }
     return tour.hasPassed() ? Done : Failed;
+}
+
+/// Beside the settings; a tour's beside its pictures, where only what goes wrong is to be read.
+void startLog(const Options &options)
+{
+    const bool isTour = !options.tourFolder.isEmpty();
+    FwLog::Options log;
+    log.standardError = !isTour;
+    log.filePath =
+        QDir(isTour ? options.tourFolder : options.settingsFolder).filePath(u"level-meter.log"_s);
+    FwLog::instance().start(log);
 }
 
 /// A tour changes settings and saves results: not those of the person who has asked for it.
@@ -81,7 +96,8 @@ int main(int argc, char *argv[])
         return Done;
     }
     const bool isTour = !options.tourFolder.isEmpty();
-    const Platform platform(isTour);
+    startLog(options);
+    const Platform platform(isTour, options.size);
     if (!platform.error().isEmpty()) {
         return complain(platform.error(), Failed);
     }

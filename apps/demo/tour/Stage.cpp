@@ -1,6 +1,6 @@
 #include "Stage.h"
 
-#include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QDeadlineTimer>
 #include <QPixmap>
 #include <QThread>
@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr unsigned long glance = 25; // milliseconds between two looks
-constexpr unsigned long tapTime = 60;
+constexpr unsigned long tapTime = 60; // between two taps
 constexpr int dragSteps = 8;
 const QPoint nowhere(-1, -1);
 
@@ -84,8 +84,8 @@ QWidget *Stage::target(const QString &name) const
     if (!widget || button.isEmpty()) {
         return widget;
     }
-    for (auto *candidate : widget->findChildren<QAbstractButton *>()) {
-        if (candidate->isVisible() && plain(candidate->text()) == button) {
+    for (auto *candidate : widget->findChildren<QWidget *>()) {
+        if (candidate->isVisible() && plain(candidate->property("text").toString()) == button) {
             return candidate;
         }
     }
@@ -106,13 +106,39 @@ QPoint Stage::middle(const QString &name) const
 
 QPoint Stage::place(const QString &name) const
 {
+    return standing(name, [&] { return middle(name); });
+}
+
+QPoint Stage::standing(const QString &what, const std::function<QPoint()> &find) const
+{
     QPoint last = nowhere;
     QPoint found = nowhere;
-    expect(u"%1 can be touched"_s.arg(name), [&] {
-        last = std::exchange(found, middle(name));
+    expect(u"%1 can be touched"_s.arg(what), [&] {
+        last = std::exchange(found, find());
         return found != nowhere && found == last;
     });
     return found;
+}
+
+/// Nowhere when there is no such row, or none that is to be seen.
+QPoint Stage::row(const QString &list, const QString &text) const
+{
+    const auto *view = qobject_cast<QAbstractItemView *>(shown(list));
+    for (int i = 0; view && i < view->model()->rowCount(view->rootIndex()); ++i) {
+        const QModelIndex index = view->model()->index(i, 0, view->rootIndex());
+        const QRect place = view->visualRect(index);
+        if (index.data().toString().contains(text)
+            && view->viewport()->rect().contains(place.center())) {
+            const QPoint left(place.left() + qMin(100, place.width() / 2), place.center().y());
+            return view->viewport()->mapTo(&m_window, left);
+        }
+    }
+    return nowhere;
+}
+
+void Stage::tapRow(const QString &list, const QString &text)
+{
+    tapAt(standing(u"%1 in %2"_s.arg(text, list), [&] { return row(list, text); }));
 }
 
 void Stage::post(const std::function<void()> &action) const
@@ -127,8 +153,8 @@ void Stage::tap(const QString &name)
 
 void Stage::tapAt(QPoint position)
 {
+    // At once, so that a machine that halts in between makes no long press of it.
     post([this, position] { m_finger.press(position); });
-    QThread::msleep(tapTime);
     post([this, position] { m_finger.release(position); });
     QThread::msleep(tapTime);
 }

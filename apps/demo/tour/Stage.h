@@ -42,9 +42,10 @@ public:
         return result;
     }
 
-    /// Waits until it holds, as seen on the GUI thread. @p what says what was expected.
+    /// Waits until it holds, as seen on the GUI thread. @p what says what was expected. The limit
+    /// is for a machine that has much else to do; where all is well it is never reached.
     void expect(const QString &what, const std::function<bool()> &condition,
-                int milliseconds = 15000) const;
+                int milliseconds = 90000) const;
 
     /// The visible widget of that name; null if there is none. GUI thread.
     QWidget *shown(const QString &name) const;
@@ -55,9 +56,12 @@ public:
     void expectGone(const QString &name) const;
     void expectText(const QString &name, const QString &text) const;
 
-    /// Taps a widget in its middle; its name may be followed by "|" and a button's text in it.
+    /// Taps a widget in its middle; its name may be followed by "|" and the text of a
+    /// button or label in it.
     void tap(const QString &name);
     void tapAt(QPoint position);
+    /// Taps the row of a list or tree that shows this text.
+    void tapRow(const QString &list, const QString &text);
     void drag(QPoint from, QPoint to);
     /// Two fingers, @p from pixels apart at first and @p to at the end, around @p centre.
     void pinch(QPoint centre, int from, int to);
@@ -72,6 +76,8 @@ private:
     void post(const std::function<void()> &action) const;
     QWidget *target(const QString &name) const;
     QPoint middle(const QString &name) const;
+    QPoint row(const QString &list, const QString &text) const;
+    QPoint standing(const QString &what, const std::function<QPoint()> &find) const;
 
     QWidget &m_window;
     QObject *m_context; ///< lives on the GUI thread

@@ -42,14 +42,17 @@ void Tour::run()
         {"choice of the test", &Tour::chooseTest},
         {"run", &Tour::startRun},
         {"plot", &Tour::usePlot},
-        {"link lost and back", &Tour::loseLink},
         {"end of the run", &Tour::finishRun},
         {"save", &Tour::saveResult},
         {"result browser", &Tour::browseResults},
         {"upload", &Tour::uploadResult},
         {"files of the instrument", &Tour::seeInstrumentFiles},
+        {"link lost and back", &Tour::loseLink},
+        {"stop without a link", &Tour::stopWithoutLink},
         {"instrument restarted", &Tour::loseInstrument},
         {"mission control", &Tour::openMissionControl},
+        {"log", &Tour::readLog},
+        {"autosave", &Tour::saveByItself},
         {"close", &Tour::closeApplication},
     };
     TourSimulator simulator;
@@ -108,11 +111,60 @@ void Tour::waitForMeasurement()
 
 QString Tour::onlyResult() const
 {
-    const QStringList names = QDir(m_resultsFolder).entryList(QDir::Files);
+    const QStringList names = results();
     if (names.size() != 1) {
         throw Missed {u"there is one result, not %1"_s.arg(names.size())};
     }
     return QDir(m_resultsFolder).filePath(names.constFirst());
+}
+
+QStringList Tour::results() const
+{
+    return QDir(m_resultsFolder).entryList(QDir::Files);
+}
+
+/// From another page; ends on the setup page.
+void Tour::enterDuration(const QString &seconds)
+{
+    m_stage.tap(u"FwLabelRow|SETUP"_s);
+    m_stage.expectShown(u"SetupStart"_s);
+    m_stage.tap(u"Duration"_s);
+    m_stage.expectShown(u"NumpadPanel"_s);
+    m_stage.tap(u"NumpadKey_Clear"_s);
+    type(seconds);
+    m_stage.tap(u"NumpadOk"_s);
+    m_stage.expectGone(u"NumpadPanel"_s);
+    m_stage.expect(u"the duration is %1 s"_s.arg(seconds),
+                   [&] { return m_settings.value(Settings::Duration) == seconds.toDouble(); });
+}
+
+/// Long enough for any machine: it is not to end before the step has ended it.
+void Tour::startLongRun()
+{
+    enterDuration(u"600"_s);
+    m_stage.tap(u"SetupStart"_s);
+    m_stage.expectShown(u"StartStop"_s);
+    waitForMeasurement();
+}
+
+/// And keeps it down, with the controller alive, until the simulator's faults are cleared.
+void Tour::cutLink()
+{
+    if (!m_simulator->command("fault registerApp:*:close")
+        || !m_simulator->command("fault isMaximumClientCountOK:*:close")) {
+        throw Missed {u"the simulator obeys"_s};
+    }
+    m_stage.expectText(u"LinkChip"_s, u"Link lost"_s);
+    m_stage.expect(u"the run waits for the link"_s,
+                   [this] { return m_meter.state() == Meter::State::Interrupted; });
+}
+
+void Tour::waitForLink()
+{
+    if (!m_simulator->command("faults clear")) {
+        throw Missed {u"the simulator obeys"_s};
+    }
+    m_stage.expectText(u"LinkChip"_s, u"Link up"_s);
 }
 
 void Tour::seeStart()
@@ -166,7 +218,7 @@ void Tour::enterByWheelAndKeys()
     m_stage.picture(u"wheel"_s);
     m_stage.tap(u"LrudNumpad"_s);
     m_stage.tap(u"NumpadCancel"_s);
-    m_stage.tapAt({640, 640});
+    m_stage.tap(u"PatternHint"_s);
     m_stage.expectGone(u"LrudArrow_up"_s);
 }
 
@@ -198,20 +250,15 @@ void Tour::changeLanguage()
     m_stage.tap(u"Language"_s);
     m_stage.expectShown(u"Choices"_s);
     m_stage.picture(u"languages"_s);
-    const QPoint second = m_stage.ask([this] {
-        const QWidget *list = m_stage.shown(u"Choices"_s);
-        return list->mapTo(&m_window, QPoint(100, 72));
-    });
-    m_stage.tapAt(second);
+    m_stage.tapRow(u"Choices"_s, u"Deutsch"_s);
     m_stage.expect(u"the language is German"_s,
                    [] { return VexTranslation::installed() == u"de"_s; });
     m_stage.expectText(u"Language"_s, u"Deutsch"_s);
     m_stage.picture(u"german"_s);
-    m_stage.ask([this] {
-        m_settings.setText(Settings::Language, u"en"_s);
-        return true;
-    });
+    m_stage.tap(u"Language"_s);
+    m_stage.tapRow(u"Choices"_s, u"English"_s);
     m_stage.expectText(u"Language"_s, u"English"_s);
+    m_stage.expectGone(u"Choices"_s);
 }
 
 void Tour::changeTheme()
@@ -230,8 +277,7 @@ void Tour::chooseTest()
     m_stage.tap(u"TestName"_s);
     m_stage.expectShown(u"Choices"_s);
     m_stage.picture(u"tests"_s);
-    m_stage.tapAt(m_stage.ask(
-        [this] { return m_stage.shown(u"Choices"_s)->mapTo(&m_window, QPoint(100, 24)); }));
+    m_stage.tapRow(u"Choices"_s, u"BERT"_s);
     m_stage.expectGone(u"Choices"_s);
     m_stage.expectText(u"TestName"_s, u"BERT"_s);
 }
@@ -280,24 +326,10 @@ void Tour::usePlot()
                    [&] { return plotRange().width() == all.width(); });
 }
 
-void Tour::loseLink()
-{
-    m_simulator->command("fault registerApp:*:close");
-    m_simulator->command("fault isMaximumClientCountOK:*:close");
-    m_stage.expectText(u"LinkChip"_s, u"Link lost"_s);
-    m_stage.expect(u"the run waits for the link"_s,
-                   [this] { return m_meter.state() == Meter::State::Interrupted; });
-    m_stage.picture(u"link-lost"_s);
-    m_simulator->command("faults clear");
-    m_stage.expectText(u"LinkChip"_s, u"Link up"_s);
-    waitForMeasurement();
-    m_stage.picture(u"link-back"_s);
-}
-
 void Tour::finishRun()
 {
     m_stage.expect(
-        u"the run comes to its end"_s, [this] { return !m_meter.isBusy(); }, 60000);
+        u"the run comes to its end"_s, [this] { return !m_meter.isBusy(); }, 180000);
     m_stage.expect(u"it is complete"_s,
                    [this] { return m_meter.run().ending == Run::Ending::Complete; });
     m_stage.expect(u"there is a verdict"_s, [this] {
@@ -313,8 +345,10 @@ void Tour::saveResult()
     m_stage.expectShown(u"CommitButton"_s);
     m_stage.picture(u"save"_s);
     m_stage.tap(u"CommitButton"_s);
-    m_stage.expectShown(u"ResultPage"_s);
     m_stage.expectShown(u"ResultTable"_s);
+    m_stage.expect(u"the result that was saved is shown"_s, [this] {
+        return m_stage.text(u"ResultName"_s) == QFileInfo(onlyResult()).fileName();
+    });
     RunFile file;
     const QString error = file.read(onlyResult());
     if (!error.isEmpty()) {
@@ -332,6 +366,19 @@ void Tour::browseResults()
     m_stage.picture(u"browser"_s);
     m_stage.tap(u"CancelButton"_s);
     m_stage.expectGone(u"FileList"_s);
+    // The one that is shown would be no proof.
+    const QString copy = u"copy.xml"_s;
+    QFile::copy(onlyResult(), QDir(m_resultsFolder).filePath(copy));
+    m_stage.tap(u"Browse"_s);
+    m_stage.tapRow(u"FileList"_s, copy);
+    m_stage.tap(u"CommitButton"_s);
+    m_stage.expectText(u"ResultName"_s, copy);
+    m_stage.tap(u"Delete"_s);
+    m_stage.picture(u"delete"_s);
+    m_stage.tap(u"MsgButtons|Yes"_s);
+    m_stage.expect(u"the copy is deleted"_s, [this] { return results().size() == 1; });
+    m_stage.tapRow(u"Results"_s, QFileInfo(onlyResult()).completeBaseName());
+    m_stage.expectText(u"ResultName"_s, QFileInfo(onlyResult()).fileName());
 }
 
 void Tour::uploadResult()
@@ -357,10 +404,34 @@ void Tour::seeInstrumentFiles()
     m_stage.expectGone(u"CopyToRight"_s);
 }
 
+void Tour::loseLink()
+{
+    startLongRun();
+    cutLink();
+    m_stage.picture(u"link-lost"_s);
+    waitForLink();
+    waitForMeasurement();
+    m_stage.picture(u"link-back"_s);
+    m_stage.tap(u"StartStop"_s);
+    m_stage.expect(u"the run is stopped"_s, [this] {
+        return !m_meter.isBusy() && m_meter.run().ending == Run::Ending::Stopped;
+    });
+}
+
+void Tour::stopWithoutLink()
+{
+    m_stage.tap(u"StartStop"_s);
+    waitForMeasurement();
+    cutLink();
+    m_stage.tap(u"StartStop"_s);
+    m_stage.expect(u"the run is stopped without a link"_s, [this] { return !m_meter.isBusy(); });
+    m_stage.picture(u"stopped-without-link"_s);
+    waitForLink();
+}
+
 void Tour::loseInstrument()
 {
-    m_stage.tap(u"FwBackButton"_s);
-    m_stage.expectShown(u"StartStop"_s);
+    // Another run right after that one.
     m_stage.tap(u"StartStop"_s);
     waitForMeasurement();
     m_simulator->kill();
@@ -368,24 +439,59 @@ void Tour::loseInstrument()
     m_stage.tap(u"LinkChip"_s);
     m_stage.expectShown(u"LinkPanel"_s);
     m_stage.picture(u"no-instrument"_s);
-    startSimulator();
+    // While there is nothing to find: the next attempt by itself could come before the finger.
     m_stage.tap(u"RetryLink"_s);
+    startSimulator();
     m_stage.expectText(u"LinkChip"_s, u"Link up"_s);
     m_stage.expect(u"the run has ended, since its test is gone"_s, [this] {
         return !m_meter.isBusy() && m_meter.run().ending == Run::Ending::EndedByInstrument;
     });
+    m_stage.tap(u"EventList"_s);
+    m_stage.expectGone(u"LinkPanel"_s);
     m_stage.picture(u"instrument-back"_s);
 }
 
 void Tour::openMissionControl()
 {
     m_stage.tap(u"McGrip"_s);
-    m_stage.expectShown(u"McClose"_s);
+    m_stage.tap(u"AutoSave"_s);
+    m_stage.expectText(u"AutoSave"_s, u"Autosave: on"_s);
     m_stage.picture(u"mission-control"_s);
+}
+
+void Tour::readLog()
+{
+    m_stage.tap(u"ShowLog"_s);
+    m_stage.expectShown(u"LogLines"_s);
+    m_stage.expectGone(u"McClose"_s);
+    m_stage.picture(u"log"_s);
+    m_stage.tap(u"PanelHandle"_s);
+    m_stage.expectGone(u"LogLines"_s);
+}
+
+void Tour::saveByItself()
+{
+    const qsizetype before = results().size();
+    m_stage.tap(u"StartStop"_s);
+    waitForMeasurement();
+    m_stage.tap(u"StartStop"_s);
+    m_stage.expect(u"the run is saved without a question"_s,
+                   [&] { return !m_meter.isBusy() && results().size() == before + 1; });
+    m_stage.expectShown(u"ResultTable"_s);
+    // So that there is something to lose at the end.
+    m_stage.tap(u"McGrip"_s);
+    m_stage.tap(u"AutoSave"_s);
+    m_stage.expectText(u"AutoSave"_s, u"Autosave: off"_s);
+    m_stage.tapAt({60, 100}); // beside it
+    m_stage.expectGone(u"McClose"_s);
+    m_stage.tap(u"FwLabelRow|TEST"_s);
+    m_stage.tap(u"StartStop"_s);
+    waitForMeasurement();
 }
 
 void Tour::closeApplication()
 {
+    m_stage.tap(u"McGrip"_s);
     m_stage.tap(u"McClose"_s);
     m_stage.expectShown(u"MsgButtons"_s);
     m_stage.picture(u"close"_s);

@@ -44,6 +44,11 @@ private:
     void startSimulator();
     void type(const QString &keys);
     void waitForMeasurement();
+    void enterDuration(const QString &seconds);
+    void startLongRun();
+    void cutLink();
+    void waitForLink();
+    QStringList results() const;
     QString onlyResult() const;
     QRectF plotRange() const;
 
@@ -58,14 +63,17 @@ private:
     void chooseTest();
     void startRun();
     void usePlot();
-    void loseLink();
     void finishRun();
     void saveResult();
     void browseResults();
     void uploadResult();
     void seeInstrumentFiles();
+    void loseLink();
+    void stopWithoutLink();
     void loseInstrument();
     void openMissionControl();
+    void readLog();
+    void saveByItself();
     void closeApplication();
 
     MeterWindow &m_window;

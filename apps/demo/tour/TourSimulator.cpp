@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int patience = 15000; // milliseconds
+constexpr int patience = 90000; // milliseconds
 
 const auto instrument = R"({
     "controller": { "model": "Field Tester 200", "serial": "FT2-00417" },
