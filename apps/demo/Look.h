@@ -13,6 +13,7 @@ namespace Look {
 
 constexpr int fingerSize = 48; ///< the least that a finger meets, in pixels
 constexpr int spacing = 12;
+constexpr int compactWidth = 1000; ///< of a page, below which it leaves out what can be spared
 
 /// A button with an object name, by which tests and the tour find it.
 QPushButton *button(const QString &objectName, QWidget *parent);

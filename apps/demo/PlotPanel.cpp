@@ -62,6 +62,12 @@ void PlotPanel::refresh()
     m_plot->refresh();
 }
 
+void PlotPanel::setCompact(bool isCompact)
+{
+    m_zoomIn->setVisible(!isCompact);
+    m_zoomOut->setVisible(!isCompact);
+}
+
 void PlotPanel::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);

@@ -18,6 +18,8 @@ public:
     /// As TracePlot::setRun().
     void setRun(const Run *run);
     void refresh();
+    /// Leaves out the buttons for what two fingers do as well.
+    void setCompact(bool isCompact);
     TracePlot *plot() const { return m_plot; }
 
 protected:

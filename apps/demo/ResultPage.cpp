@@ -48,7 +48,7 @@ ResultPage::ResultPage(const QString &folder, QWidget *parent)
 QWidget *ResultPage::makeList()
 {
     auto *side = new QWidget(this);
-    side->setFixedWidth(listWidth);
+    m_side = side;
     m_listHeading = Look::heading(side);
     m_list = new QListWidget(side);
     m_list->setObjectName(u"Results"_s);
@@ -116,13 +116,15 @@ QWidget *ResultPage::makeButtons()
     m_transfer = Look::button(u"Transfer"_s, bar);
     m_delete = Look::button(u"Delete"_s, bar);
     for (QPushButton *button : {m_browse, m_upload, m_transfer, m_delete}) {
-        button->setMinimumWidth(200);
-        layout->addWidget(button);
+        button->setMaximumWidth(200);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        layout->addWidget(button, 2);
     }
     m_uploadBar = new QProgressBar(bar);
     m_uploadBar->setObjectName(u"UploadProgress"_s);
     m_uploadBar->setTextVisible(false);
     m_uploadBar->setFixedHeight(16);
+    m_uploadBar->setMinimumWidth(40);
     QSizePolicy policy = m_uploadBar->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_uploadBar->setSizePolicy(policy);
@@ -253,6 +255,15 @@ void ResultPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     refresh();
+}
+
+void ResultPage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const bool isCompact = width() < Look::compactWidth;
+    m_side->setFixedWidth(isCompact ? listWidth * 2 / 3 : listWidth);
+    m_events->setVisible(!isCompact);
+    m_plot->setCompact(isCompact);
 }
 
 void ResultPage::retranslate()

@@ -44,6 +44,7 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *makeList();
@@ -61,6 +62,7 @@ private:
     bool m_canUpload = false;
     bool m_isUploading = false;
     QLabel *m_listHeading;
+    QWidget *m_side;
     QListWidget *m_list;
     QLabel *m_empty;
     QLabel *m_name;

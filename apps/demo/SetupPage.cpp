@@ -8,6 +8,8 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScroller>
 
 #include <input/QLineEditBin.h>
 #include <input/QLineEditCodingPAM4.h>
@@ -41,15 +43,21 @@ SetupPage::SetupPage(Settings &settings, QWidget *parent)
     setObjectName(u"SetupPage"_s);
     setAutoFillBackground(true);
     m_fields = new QWidget(this);
-    auto *columns = new QHBoxLayout(m_fields);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->setSpacing(48);
-    columns->addWidget(makeFields());
-    columns->addWidget(makePatterns(), 1);
+    m_columns = new QHBoxLayout(m_fields);
+    m_columns->setContentsMargins(0, 0, 0, 0);
+    m_columns->setSpacing(48);
+    m_columns->addWidget(makeFields());
+    m_columns->addWidget(makePatterns(), 1);
+    auto *area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(m_fields);
+    QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 16, 60, 40);
-    layout->addWidget(m_fields, 1);
+    layout->addWidget(area, 1);
     layout->addWidget(makeButtons());
     connect(&m_settings, &Settings::changed, this, &SetupPage::showProperty);
     showAll();
@@ -152,10 +160,11 @@ QWidget *SetupPage::makeButtons()
     m_standard = Look::button(u"Standard"_s, bar);
     m_start = Look::mainButton(u"SetupStart"_s, bar);
     for (QPushButton *button : {m_language, m_theme, m_help, m_standard}) {
-        button->setMinimumWidth(180);
-        layout->addWidget(button);
+        button->setMaximumWidth(180);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        layout->addWidget(button, 2);
     }
-    layout->addStretch();
+    layout->addStretch(1);
     layout->addWidget(m_start);
     connect(m_language, &QPushButton::clicked, this, &SetupPage::chooseLanguage);
     connect(m_theme, &QPushButton::clicked, this, &SetupPage::switchTheme);
@@ -251,6 +260,14 @@ void SetupPage::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
     }
+}
+
+/// One column below the other where there is no room beside it.
+void SetupPage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_columns->setDirection(width() < Look::compactWidth ? QBoxLayout::TopToBottom
+                                                         : QBoxLayout::LeftToRight);
 }
 
 void SetupPage::retranslate()

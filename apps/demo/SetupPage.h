@@ -5,6 +5,7 @@
 
 #include "Settings.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QLabel;
 class QLineEditNumber;
@@ -34,6 +35,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     struct NumberRow
@@ -66,6 +68,7 @@ private:
     QStringList m_tests;
     QVector<NumberRow> m_numbers;
     QVector<PatternRow> m_patterns;
+    QBoxLayout *m_columns;
     QWidget *m_fields; ///< all that a run locks
     QLabel *m_numbersHeading;
     QLabel *m_patternHeading;

@@ -50,6 +50,7 @@ QWidget *TestPage::makeHeader()
     m_save->setMinimumSize(150, 60);
     m_state = new QLabel(header);
     m_state->setObjectName(u"RunState"_s);
+    m_state->setWordWrap(true);
     m_progress = new QProgressBar(header);
     m_progress->setObjectName(u"Progress"_s);
     m_progress->setRange(0, progressSteps);
@@ -178,6 +179,10 @@ void TestPage::showVerdict()
 {
     const Verdict verdict = m_meter.run().verdict();
     const bool isEarly = m_meter.isBusy() && verdict == Verdict::None;
+    if (m_meter.state() == Meter::State::Interrupted) {
+        m_verdict->setStatus(tr("Interrupted"), "warning");
+        return;
+    }
     m_verdict->setStatus(isEarly ? tr("Running") : Wording::verdict(verdict),
                          isEarly ? QByteArray("progress") : Wording::verdictColour(verdict));
 }
@@ -208,6 +213,20 @@ void TestPage::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
     }
+}
+
+void TestPage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const bool isCompact = width() < Look::compactWidth;
+    m_startStop->setMinimumWidth(isCompact ? 112 : 200);
+    m_save->setMinimumWidth(isCompact ? 112 : 150);
+    m_verdict->setFixedWidth(isCompact ? 150 : 220);
+    // The last event is in the header, too.
+    m_events->setVisible(!isCompact);
+    m_mean->setVisible(!isCompact);
+    m_time->setVisible(!isCompact);
+    m_plot->setCompact(isCompact);
 }
 
 void TestPage::retranslate()

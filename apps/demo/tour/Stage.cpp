@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QDeadlineTimer>
 #include <QPixmap>
+#include <QScrollArea>
 #include <QThread>
 #include <QVariant>
 #include <QWidget>
@@ -95,9 +96,15 @@ QWidget *Stage::target(const QString &name) const
 /// Nowhere when there is no such widget, or a finger could not touch it.
 QPoint Stage::middle(const QString &name) const
 {
-    const QWidget *widget = target(name);
+    QWidget *widget = target(name);
     if (!widget || !widget->isEnabled()) {
         return nowhere;
+    }
+    // As a person would, who looks for it.
+    for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(parent)) {
+            area->ensureWidgetVisible(widget);
+        }
     }
     const QPoint point = widget->mapTo(&m_window, widget->rect().center());
     const QWidget *hit = m_window.childAt(point);

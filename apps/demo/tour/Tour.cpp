@@ -319,8 +319,10 @@ void Tour::usePlot()
     m_stage.expect(u"two taps set the markers"_s,
                    [this] { return m_stage.text(u"MarkerReadout"_s).contains(u"B - A"_s); });
     m_stage.picture(u"markers"_s);
-    m_stage.tap(u"ZoomIn"_s);
-    m_stage.tap(u"ZoomOut"_s);
+    if (m_stage.ask([this] { return m_stage.shown(u"ZoomIn"_s) != nullptr; })) {
+        m_stage.tap(u"ZoomIn"_s);
+        m_stage.tap(u"ZoomOut"_s);
+    }
     m_stage.tap(u"Fit"_s);
     m_stage.expect(u"the plot shows all again"_s,
                    [&] { return plotRange().width() == all.width(); });
@@ -446,7 +448,7 @@ void Tour::loseInstrument()
     m_stage.expect(u"the run has ended, since its test is gone"_s, [this] {
         return !m_meter.isBusy() && m_meter.run().ending == Run::Ending::EndedByInstrument;
     });
-    m_stage.tap(u"EventList"_s);
+    m_stage.tap(u"Level"_s);
     m_stage.expectGone(u"LinkPanel"_s);
     m_stage.picture(u"instrument-back"_s);
 }
