@@ -72,6 +72,7 @@ QWidget *SetupPage::makeFields()
     grid->setVerticalSpacing(Look::spacing);
     grid->setHorizontalSpacing(Look::spacing);
     m_numbersHeading = Look::heading(box);
+    m_numbersHeading->setObjectName(u"NumbersHeading"_s);
     grid->addWidget(m_numbersHeading, 0, 0, 1, 3);
     for (const Settings::Number &number : Settings::numbers()) {
         addNumber(grid, number.id);
@@ -119,7 +120,6 @@ QWidget *SetupPage::makePatterns()
     addPattern(grid, new QLineEditBin(box), u"PatternBin"_s);
     addPattern(grid, new QLineEditCodingPAM4(box), u"PatternPam4"_s);
     m_patternHint = new QLabel(box);
-    m_patternHint->setObjectName(u"PatternHint"_s);
     m_patternHint->setWordWrap(true);
     m_lockedHint = new QLabel(box);
     m_lockedHint->setObjectName(u"LockedHint"_s);

@@ -218,7 +218,7 @@ void Tour::enterByWheelAndKeys()
     m_stage.picture(u"wheel"_s);
     m_stage.tap(u"LrudNumpad"_s);
     m_stage.tap(u"NumpadCancel"_s);
-    m_stage.tap(u"PatternHint"_s);
+    m_stage.tap(u"NumbersHeading"_s);
     m_stage.expectGone(u"LrudArrow_up"_s);
 }
 
@@ -254,6 +254,7 @@ void Tour::changeLanguage()
     m_stage.expect(u"the language is German"_s,
                    [] { return VexTranslation::installed() == u"de"_s; });
     m_stage.expectText(u"Language"_s, u"Deutsch"_s);
+    m_stage.expectText(u"SetupStart"_s, u"Test starten"_s);
     m_stage.picture(u"german"_s);
     m_stage.tap(u"Language"_s);
     m_stage.tapRow(u"Choices"_s, u"English"_s);
