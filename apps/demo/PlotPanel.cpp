@@ -66,6 +66,7 @@ void PlotPanel::setCompact(bool isCompact)
 {
     m_zoomIn->setVisible(!isCompact);
     m_zoomOut->setVisible(!isCompact);
+    m_plot->setCompact(isCompact);
 }
 
 void PlotPanel::changeEvent(QEvent *event)

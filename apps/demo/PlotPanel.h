@@ -18,7 +18,7 @@ public:
     /// As TracePlot::setRun().
     void setRun(const Run *run);
     void refresh();
-    /// Leaves out the buttons for what two fingers do as well.
+    /// Leaves out the titles of the axes, and the buttons for what two fingers do as well.
     void setCompact(bool isCompact);
     TracePlot *plot() const { return m_plot; }
 

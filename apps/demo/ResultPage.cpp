@@ -116,6 +116,7 @@ QWidget *ResultPage::makeButtons()
     m_transfer = Look::button(u"Transfer"_s, bar);
     m_delete = Look::button(u"Delete"_s, bar);
     for (QPushButton *button : {m_browse, m_upload, m_transfer, m_delete}) {
+        button->setMinimumWidth(96);
         button->setMaximumWidth(200);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         layout->addWidget(button, 2);

@@ -160,6 +160,7 @@ QWidget *SetupPage::makeButtons()
     m_standard = Look::button(u"Standard"_s, bar);
     m_start = Look::mainButton(u"SetupStart"_s, bar);
     for (QPushButton *button : {m_language, m_theme, m_help, m_standard}) {
+        button->setMinimumWidth(96);
         button->setMaximumWidth(180);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         layout->addWidget(button, 2);

@@ -112,6 +112,13 @@ void TracePlot::setRun(const Run *run)
     Q_EMIT markersChanged();
 }
 
+void TracePlot::setCompact(bool isCompact)
+{
+    m_time->setTitleVisible(!isCompact);
+    m_level->setTitleVisible(!isCompact);
+    m_level->setTickCount(isCompact ? 3 : 7);
+}
+
 void TracePlot::refresh()
 {
     if (m_isFitted) {

@@ -27,6 +27,8 @@ public:
     void setRun(const Run *run);
     /// The run has more samples.
     void refresh();
+    /// For little room: the axes have no titles and fewer labels.
+    void setCompact(bool isCompact);
 
     /// "A 1.234 s -13.72 dBm" and so on; empty without markers.
     QString markerText() const;
