@@ -75,7 +75,10 @@ void Stage::expectGone(const QString &name) const
 
 void Stage::expectText(const QString &name, const QString &wanted) const
 {
-    expect(u"%1 says \"%2\""_s.arg(name, wanted), [&] { return text(name) == wanted; });
+    expect(u"%1 says \"%2\""_s.arg(name, wanted), [&] {
+        scrollTo(name);
+        return text(name) == wanted;
+    });
 }
 
 QWidget *Stage::target(const QString &name) const
@@ -93,18 +96,26 @@ QWidget *Stage::target(const QString &name) const
     return nullptr;
 }
 
+/// As a person would, who looks for it.
+void Stage::scrollTo(const QString &name) const
+{
+    for (QWidget *widget : m_window.findChildren<QWidget *>(name)) {
+        for (QWidget *parent = widget; parent; parent = parent->parentWidget()) {
+            auto *area = qobject_cast<QScrollArea *>(parent);
+            if (area && widget->isVisible()) {
+                area->ensureWidgetVisible(widget);
+            }
+        }
+    }
+}
+
 /// Nowhere when there is no such widget, or a finger could not touch it.
 QPoint Stage::middle(const QString &name) const
 {
-    QWidget *widget = target(name);
+    scrollTo(name);
+    const QWidget *widget = target(name);
     if (!widget || !widget->isEnabled()) {
         return nowhere;
-    }
-    // As a person would, who looks for it.
-    for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
-        if (auto *area = qobject_cast<QScrollArea *>(parent)) {
-            area->ensureWidgetVisible(widget);
-        }
     }
     const QPoint point = widget->mapTo(&m_window, widget->rect().center());
     const QWidget *hit = m_window.childAt(point);

@@ -75,6 +75,7 @@ public:
 private:
     void post(const std::function<void()> &action) const;
     QWidget *target(const QString &name) const;
+    void scrollTo(const QString &name) const;
     QPoint middle(const QString &name) const;
     QPoint row(const QString &list, const QString &text) const;
     QPoint standing(const QString &what, const std::function<QPoint()> &find) const;
