@@ -117,6 +117,7 @@ void TracePlot::setCompact(bool isCompact)
     m_time->setTitleVisible(!isCompact);
     m_level->setTitleVisible(!isCompact);
     m_level->setTickCount(isCompact ? 3 : 7);
+    m_time->setTickCount(isCompact ? 6 : 11);
 }
 
 void TracePlot::refresh()
