@@ -5,6 +5,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -36,6 +39,8 @@ QString TourSimulator::start()
     if (!QFileInfo(program).isExecutable()) {
         return u"there is no %1"_s.arg(program);
     }
+    // A tour that is killed takes its simulator with it.
+    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.start(program,
                     {u"--root"_s, m_folder.filePath(u"root"_s), u"--port"_s,
                      QString::number(m_port), u"--instrument"_s, writeInstrument()});
