@@ -9,6 +9,7 @@
 #include "Platform.h"
 #include "Settings.h"
 #include "SimulatedSource.h"
+#include "StartReport.h"
 #include "tour/Tour.h"
 
 #include <QApplication>
@@ -40,6 +41,7 @@ int run(const Options &options, QVector<QString> &words)
     MeterWindow window(words, settings, meter, link, options.resultsFolder);
     const Framework framework(window, meter, link);
     window.resize(options.size);
+    const StartReport report(window, link);
     window.show();
     if (options.tourFolder.isEmpty()) {
         if (options.useLink) {
