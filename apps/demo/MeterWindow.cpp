@@ -36,6 +36,8 @@ MeterWindow::MeterWindow(QVector<QString> &args, Settings &settings, Meter &mete
     setApplicationResultExt(RunFile::suffix());
     setResultsHomeDir(resultsFolder);
     setApplicationPort(u"1/1"_s);
+    // The windows are made in their colours, which is faster than changing them.
+    applyColours();
     makeWindows();
     makePanels();
     connectRun();
@@ -178,12 +180,17 @@ void MeterWindow::openResult(const QString &path, const RunFile &file)
     setActiveApplicationWindow(m_result);
 }
 
+/// Only names that it knows: the file could hold anything.
+void MeterWindow::applyColours()
+{
+    const bool isLight = m_settings.text(Settings::Theme) == u"light"_s;
+    setColorTheme({isLight ? u"light"_s : u"dark"_s});
+}
+
 void MeterWindow::applyProperty(long id)
 {
     if (id == Settings::Theme) {
-        // Only names that it knows: the file could hold anything.
-        const bool isLight = m_settings.text(Settings::Theme) == u"light"_s;
-        setColorTheme({isLight ? u"light"_s : u"dark"_s});
+        applyColours();
         for (QWidget *part : std::initializer_list<QWidget *> {
                  m_setup, m_test, m_result, m_linkPanel, m_logPanel, m_controlButtons}) {
             part->setStyleSheet(Look::sheet());

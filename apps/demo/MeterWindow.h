@@ -54,6 +54,7 @@ private:
     void connectRun();
     void connectFiles();
     void connectLink();
+    void applyColours();
     void applyProperty(long id);
     void showLink();
     void reportRun();

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -60,13 +61,15 @@ TracePlot::TracePlot(QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setRenderHint(QPainter::Antialiasing);
     setAxes();
-    setChart(m_chart);
     setColours();
+    fit();
+    // Last: every change of a chart that is shown lays out its axes, which takes a millisecond.
+    const std::unique_ptr<QChart> replaced(chart());
+    setChart(m_chart);
     auto *gestures = new PlotGestures(viewport());
     connect(gestures, &PlotGestures::dragged, this, &TracePlot::pan);
     connect(gestures, &PlotGestures::pinched, this, &TracePlot::zoom);
     connect(gestures, &PlotGestures::tapped, this, &TracePlot::setMarker);
-    fit();
 }
 
 void TracePlot::setAxes()
