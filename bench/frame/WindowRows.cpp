@@ -157,10 +157,14 @@ double changeTheme(DemoWindow &demo)
     });
 }
 
+/// Of every widget: what covers another one does not follow it.
 double paint(MeterWindow &window)
 {
     return secondsOf([&window] {
         window.update();
+        for (QWidget *part : window.findChildren<QWidget *>()) {
+            part->update();
+        }
         awaitPaint(window);
     });
 }
