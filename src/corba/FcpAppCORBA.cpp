@@ -33,6 +33,7 @@ FcpAppCORBA::FcpAppCORBA(BiDirectionalCORBA *corba)
 
 FcpAppCORBA::~FcpAppCORBA()
 {
+    Q_EMIT ending();
     if (const auto link = d->currentLink()) {
         d->letGo(link);
     }

@@ -157,6 +157,8 @@ Q_SIGNALS:
     void fcpEventReceived(int event);
     /** The link is lost; @p reason is always -1, lastError() has the words. */
     void disconnectCatched(int reason);
+    /** The destructor has begun: the last moment to end what other threads do with the proxy. */
+    void ending();
 
 private:
     explicit FcpAppCORBA(BiDirectionalCORBA *corba);

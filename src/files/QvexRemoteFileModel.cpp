@@ -9,12 +9,16 @@ QvexRemoteFileModel::QvexRemoteFileModel(FcpAppCORBA *controller, QObject *paren
     : QvexFileModel(parent)
     , d(std::make_unique<Private>(this, controller))
 {
-    connect(&d->helper, &RemoteHelperThread::removeComplete, this,
+    connect(d->helper.get(), &RemoteHelperThread::removeComplete, this,
             &QvexRemoteFileModel::removeComplete_i, Qt::QueuedConnection);
-    connect(&d->helper, &RemoteHelperThread::copyComplete, this,
+    connect(d->helper.get(), &RemoteHelperThread::copyComplete, this,
             &QvexRemoteFileModel::copyComplete_i, Qt::QueuedConnection);
-    connect(&d->helper, &RemoteHelperThread::moveComplete, this,
+    connect(d->helper.get(), &RemoteHelperThread::moveComplete, this,
             &QvexRemoteFileModel::moveComplete_i, Qt::QueuedConnection);
+    connect(d->helper.get(), &RemoteHelperThread::makeFolderComplete, this,
+            &QvexRemoteFileModel::makeFolderComplete_i, Qt::QueuedConnection);
+    connect(d->helper.get(), &RemoteHelperThread::renameComplete, this,
+            &QvexRemoteFileModel::renameComplete_i, Qt::QueuedConnection);
 }
 
 QvexRemoteFileModel::~QvexRemoteFileModel() = default;
@@ -113,6 +117,23 @@ QString QvexRemoteFileModel::newDirectory(const QModelIndex &parent)
     return made.sliced(made.lastIndexOf(u'/') + 1);
 }
 
+long QvexRemoteFileModel::createDirectory(const QModelIndex &parent)
+{
+    return d->startTask(RemoteHelperThread::Kind::MakeFolder,
+                        {isDir(parent) ? filePath(parent) : QString()});
+}
+
+long QvexRemoteFileModel::rename(const QModelIndex &index, const QString &newName)
+{
+    const bool can = index.isValid() && d->canRename(Private::nodeOf(index), newName);
+    const long started = d->startTask(RemoteHelperThread::Kind::Rename,
+                                      {can ? filePath(index) : QString()}, newName);
+    if (started == Done) {
+        d->renamed = index;
+    }
+    return started;
+}
+
 long QvexRemoteFileModel::deleteFileDirectory(const QVector<QString> &paths)
 {
     return d->startTask(RemoteHelperThread::Kind::Remove, paths);
@@ -132,7 +153,7 @@ long QvexRemoteFileModel::copyFileDirectory(const QVector<QString> &paths,
 
 void QvexRemoteFileModel::cancelThread()
 {
-    d->helper.cancel();
+    d->helper->cancel();
 }
 
 void QvexRemoteFileModel::removeComplete_i(long result, const QString &more, bool final)
@@ -161,6 +182,29 @@ void QvexRemoteFileModel::moveComplete_i(long result, const QString &src, const 
     }
 }
 
+void QvexRemoteFileModel::makeFolderComplete_i(long result, const QString &parent,
+                                               const QString &path)
+{
+    d->taskRuns = false;
+    d->refresh(parent);
+    Q_EMIT newDirectoryComplete(result, path);
+}
+
+void QvexRemoteFileModel::renameComplete_i(long result, const QString &path, const QString &newName)
+{
+    d->taskRuns = false;
+    const QString oldName = path.sliced(path.lastIndexOf(u'/') + 1);
+    // A listing that came meanwhile may have taken the row away, or brought the new name.
+    if (result == Done && newName != oldName && filePath(d->renamed) == path) {
+        d->giveName(Private::nodeOf(d->renamed), newName);
+    }
+    d->renamed = QModelIndex();
+    if (!path.isEmpty()) {
+        d->refresh(QvexRemoteFileSystemAbstract::directoryOf(path));
+    }
+    Q_EMIT renameComplete(result, oldName, newName);
+}
+
 void QvexRemoteFileModel::refreshDirectory(const QModelIndex &index)
 {
     if (index.isValid()) {
@@ -186,6 +230,8 @@ QString QvexRemoteFileModel::resultText(long result) const
         return tr("The link to the instrument was lost; it is not known whether it was done.");
     case NoPath:
         return tr("Its name can't be used.");
+    case NotMade:
+        return tr("No folder could be made here: it may be protected.");
     default:
         return RemoteDisplay::errorText(result);
     }

@@ -43,11 +43,15 @@ public:
     enum RemoteResult : int {
         LinkLost = -7, ///< it is not known what has become of the item
         NoPath = -8, ///< an item or the destination has no path that names it alone; not tried
+        NotMade = -9, ///< a new folder; the controller does not say why
     };
 
     /** @p controller is not owned and must outlive the model. */
     explicit QvexRemoteFileModel(FcpAppCORBA *controller, QObject *parent = nullptr);
-    /** Waits for the controller's call that a thread of the model is in. */
+    /**
+     * Does not wait for the controller's call that a thread of the model is in: that ends by itself
+     * later, and the controller's destructor waits for it.
+     */
     ~QvexRemoteFileModel() override;
 
     /**
@@ -80,6 +84,13 @@ public:
     void setVexFilters(const QStringList &nameFilters, const QStringList &fileTypes) override;
 
     QString newDirectory(const QModelIndex &parent) override;
+    /**
+     * newDirectory() and setData() as long operations, so that nobody waits for the controller. One
+     * of those runs at a time: Done when it was started, which newDirectoryComplete() or
+     * renameComplete() ends, else Busy. cancelThread() does not stop them.
+     */
+    long createDirectory(const QModelIndex &parent);
+    long rename(const QModelIndex &index, const QString &newName);
     long deleteFileDirectory(const QVector<QString> &paths) override;
     long moveFileDirectory(const QVector<QString> &paths, const QString &destination) override;
     long copyFileDirectory(const QVector<QString> &paths, const QString &destination) override;
@@ -110,11 +121,16 @@ Q_SIGNALS:
     void loadingChanged(const QString &path, bool loading);
     /** Instead of directoryLoaded(). */
     void listingFailed(const QString &path);
+    /** The path of the new folder is empty unless @p result is Done. It is listed soon after. */
+    void newDirectoryComplete(long result, const QString &path);
+    void renameComplete(long result, const QString &oldName, const QString &newName);
 
 private Q_SLOTS:
     void removeComplete_i(long result, const QString &more, bool final);
     void copyComplete_i(long result, const QString &src, const QString &dst, bool final);
     void moveComplete_i(long result, const QString &src, const QString &dst, bool final);
+    void makeFolderComplete_i(long result, const QString &parent, const QString &path);
+    void renameComplete_i(long result, const QString &path, const QString &newName);
 
 private:
     struct Private;

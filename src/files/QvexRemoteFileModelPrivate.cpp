@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "FileNames.h"
+#include "LateThread.h"
 #include "corba/FcpAppCORBA.h"
 
 using namespace Qt::StringLiterals;
@@ -39,7 +40,7 @@ QvexRemoteFileModel::Private::Private(QvexRemoteFileModel *model, FcpAppCORBA *c
     , controller(controllerProxy)
     , host(controllerProxy->getHost())
     , batch(FirstBatch)
-    , helper(controllerProxy)
+    , helper(std::make_unique<RemoteHelperThread>(controllerProxy))
 {
     slices.setInterval(0);
     QObject::connect(&slices, &QTimer::timeout, model, [this] { mergeSlice(); });
@@ -47,7 +48,12 @@ QvexRemoteFileModel::Private::Private(QvexRemoteFileModel *model, FcpAppCORBA *c
 
 QvexRemoteFileModel::Private::~Private()
 {
-    helper.cancel(); // it may end while the lister is waited for
+    helper->cancel();
+    LateThread::letGo(std::move(helper), controller);
+    if (lister) {
+        lister->end();
+        LateThread::letGo(std::move(lister), controller);
+    }
 }
 
 void QvexRemoteFileModel::Private::readHost()
@@ -330,12 +336,16 @@ void QvexRemoteFileModel::Private::refilter()
 
 // ---- Operations
 
+bool QvexRemoteFileModel::Private::canRename(const RemoteNode *node, const QString &newName) const
+{
+    return node != tree.root() && QvexRemoteFileSystemAbstract::hasPath(node)
+        && QvexRemoteFileSystemAbstract::isName(newName);
+}
+
 bool QvexRemoteFileModel::Private::rename(RemoteNode *node, const QString &newName)
 {
     const QString oldName = node->item.name;
-    const QString oldPath = tree.path(node);
-    if (node == tree.root() || oldPath.isEmpty()
-        || !QvexRemoteFileSystemAbstract::isName(newName)) {
+    if (!canRename(node, newName)) {
         return false;
     }
     if (newName == oldName) {
@@ -347,11 +357,18 @@ bool QvexRemoteFileModel::Private::rename(RemoteNode *node, const QString &newNa
         || controller->linkSerial() != link) { // the proxy gives 0 for a lost link, too
         return false;
     }
-    node->item.name = newName;
+    giveName(node, newName);
+    return true;
+}
+
+void QvexRemoteFileModel::Private::giveName(RemoteNode *node, const QString &newName)
+{
+    const QString oldPath = tree.path(node);
+    const QString oldName = std::exchange(node->item.name, newName);
+    const QString directory = tree.path(node->parent);
     rowsChanged(node->parent, node->row, node->row);
     followRename(oldPath, QvexRemoteFileSystemAbstract::join(directory, newName));
     Q_EMIT q->fileRenamed(directory, oldName, newName);
-    return true;
 }
 
 void QvexRemoteFileModel::Private::followRename(const QString &oldPath, const QString &newPath)
@@ -381,8 +398,8 @@ long QvexRemoteFileModel::Private::startTask(RemoteHelperThread::Kind kind,
     taskRuns = true;
     taskDestination =
         destination.isEmpty() ? QString() : QvexRemoteFileSystemAbstract::cleanPath(destination);
-    helper.setTask(kind, sources, destination);
-    helper.start();
+    helper->setTask(kind, sources, destination);
+    helper->start();
     return Done;
 }
 

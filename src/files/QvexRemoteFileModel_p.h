@@ -47,7 +47,10 @@ struct QvexRemoteFileModel::Private : public RemoteRows
     /** Its entries' paths have changed, or its rows but not by its listing: begins anew. */
     void restart(RemoteNode *node);
 
+    bool canRename(const RemoteNode *node, const QString &newName) const;
     bool rename(RemoteNode *node, const QString &newName);
+    /** Its row gets the name that it has got on the instrument. */
+    void giveName(RemoteNode *node, const QString &newName);
     void followRename(const QString &oldPath, const QString &newPath);
     long startTask(RemoteHelperThread::Kind kind, const QVector<QString> &sources,
                    const QString &destination = {});
@@ -74,6 +77,7 @@ struct QvexRemoteFileModel::Private : public RemoteRows
     bool asynchronous = false;
     bool taskRuns = false;
     QString taskDestination; ///< clean; empty without one
+    QPersistentModelIndex renamed; ///< what is being given another name
 
 private:
     RemoteLister::Request request(quint64 id, RemoteNode *node, const QString &path) const;
@@ -98,8 +102,7 @@ private:
     mutable RemoteDisplay::Icons icons;
 
 public:
-    // Last, so that their threads end first.
-    RemoteHelperThread helper;
+    std::unique_ptr<RemoteHelperThread> helper;
 
 private:
     std::unique_ptr<RemoteLister> lister;

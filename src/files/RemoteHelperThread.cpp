@@ -1,6 +1,7 @@
 #include "RemoteHelperThread.h"
 
 #include "QvexRemoteFileModel.h"
+#include "QvexRemoteFileSystemAbstract.h"
 #include "corba/FcpAppCORBA.h"
 
 namespace {
@@ -42,6 +43,10 @@ void RemoteHelperThread::cancel()
 
 void RemoteHelperThread::run()
 {
+    if (m_kind == Kind::MakeFolder || m_kind == Kind::Rename) {
+        runOne();
+        return;
+    }
     for (const QString &source : std::as_const(m_sources)) {
         if (m_cancelled) {
             report(QvexFileModel::Cancelled, {}, {}, true);
@@ -56,19 +61,33 @@ void RemoteHelperThread::run()
     report(QvexFileModel::Done, {}, {}, true);
 }
 
-/// The proxy gives 0 for a call that failed, too: a change of link tells the two apart.
-long RemoteHelperThread::carryOut(const QString &source) const
+void RemoteHelperThread::runOne()
 {
-    if (!isUsable(source) || (m_kind != Kind::Remove && !isUsable(m_destination))) {
+    const QString source = m_sources.value(0);
+    m_made.clear();
+    const long result = carryOut(source);
+    if (m_kind == Kind::Rename) {
+        Q_EMIT renameComplete(result, source, m_destination);
+    } else {
+        Q_EMIT makeFolderComplete(result, source, result == 0 ? m_made : QString());
+    }
+}
+
+/// The proxy gives 0 for a call that failed, too: a change of link tells the two apart.
+long RemoteHelperThread::carryOut(const QString &source)
+{
+    const bool needsDestination = m_kind != Kind::Remove && m_kind != Kind::MakeFolder;
+    if (!isUsable(source) || (needsDestination && !isUsable(m_destination))) {
         return QvexRemoteFileModel::NoPath;
     }
     const quint64 link = m_controller->linkSerial();
     const long result = call(source);
     const bool answered = link != 0 && m_controller->linkSerial() == link;
-    return result == 0 && !answered ? long(QvexRemoteFileModel::LinkLost) : result;
+    const bool saysLittle = result == 0 || m_kind == Kind::MakeFolder;
+    return saysLittle && !answered ? long(QvexRemoteFileModel::LinkLost) : result;
 }
 
-long RemoteHelperThread::call(const QString &source) const
+long RemoteHelperThread::call(const QString &source)
 {
     switch (m_kind) {
     case Kind::Remove:
@@ -77,8 +96,29 @@ long RemoteHelperThread::call(const QString &source) const
         return m_controller->copyFileDirectory(source, m_destination);
     case Kind::Move:
         return m_controller->moveFileDirectory(source, m_destination);
+    case Kind::MakeFolder:
+        return makeFolder(source);
+    case Kind::Rename:
+        return rename(source);
     }
     Q_UNREACHABLE();
+}
+
+long RemoteHelperThread::makeFolder(const QString &parent)
+{
+    const QString made = m_controller->newDirectory(parent);
+    const QString name = made.sliced(made.lastIndexOf(u'/') + 1);
+    m_made = name.isEmpty() ? QString() : QvexRemoteFileSystemAbstract::join(parent, name);
+    return name.isEmpty() ? long(QvexRemoteFileModel::NotMade) : 0L;
+}
+
+long RemoteHelperThread::rename(const QString &path) const
+{
+    using Tree = QvexRemoteFileSystemAbstract;
+    const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
+    return name == m_destination
+        ? 0L
+        : m_controller->renameFileDirectory(Tree::directoryOf(path), name, m_destination);
 }
 
 void RemoteHelperThread::report(long result, const QString &source, const QString &destination,
@@ -93,6 +133,9 @@ void RemoteHelperThread::report(long result, const QString &source, const QStrin
         break;
     case Kind::Move:
         Q_EMIT moveComplete(result, source, destination, final);
+        break;
+    case Kind::MakeFolder:
+    case Kind::Rename:
         break;
     }
 }

@@ -14,13 +14,18 @@ RemoteLister::RemoteLister(FcpAppCORBA *controller, std::function<void()> notify
 
 RemoteLister::~RemoteLister()
 {
+    end();
+    wait();
+}
+
+void RemoteLister::end()
+{
     {
         const std::lock_guard lock(m_mutex);
         m_ending = true;
         m_waiting.clear();
     }
     m_wake.notify_one();
-    wait();
 }
 
 void RemoteLister::post(Request request)
@@ -67,11 +72,11 @@ void RemoteLister::run()
     while (next(request)) {
         Result result {request.id, list(m_controller, request)};
         request = {};
-        {
-            const std::lock_guard lock(m_mutex);
+        const std::lock_guard lock(m_mutex); // also against an end() that does not wait
+        if (!m_ending) {
             m_results.push_back(std::move(result));
+            m_notify();
         }
-        m_notify();
     }
 }
 

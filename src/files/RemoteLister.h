@@ -16,7 +16,7 @@
 class FcpAppCORBA;
 
 /** Lists directories of the instrument on a thread, one after another. */
-class RemoteLister : private QThread
+class RemoteLister : public QThread
 {
 public:
     struct Request
@@ -35,8 +35,11 @@ public:
 
     /** @p notify is called on the lister's thread when there are results. */
     RemoteLister(FcpAppCORBA *controller, std::function<void()> notify);
-    /** Drops what waits, and waits for the call under way. Nobody is notified afterwards. */
+    /** Waits for the call under way. */
     ~RemoteLister() override;
+
+    /** Drops what waits, and ends after the call under way. Nobody is notified afterwards. */
+    void end();
 
     void post(Request request);
     /** Whether the controller was not yet asked. */
@@ -53,7 +56,7 @@ private:
     std::deque<Request>::iterator find(quint64 id);
 
     FcpAppCORBA *const m_controller;
-    const std::function<void()> m_notify;
+    const std::function<void()> m_notify; ///< not once it is ending
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::deque<Request> m_waiting;
