@@ -3,9 +3,12 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include <cerrno>
+
 #include "FileNames.h"
 #include "FilePaths.h"
 #include "FileQuestions.h"
+#include "QvexRemoteFileModel.h"
 #include "dialogs/QvexMessageBox.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -48,16 +51,41 @@ void FileOperations::setPlace(QvexFileModel *model, const FilePlace &place)
         connect(model, &QvexFileModel::copyComplete, this, &FileOperations::end);
         connect(model, &QvexFileModel::moveComplete, this, &FileOperations::end);
     }
+    if (const auto *instrument = qobject_cast<QvexRemoteFileModel *>(model)) {
+        connectInstrument(instrument);
+    }
     Q_EMIT pickedUp();
 }
 
-QString FileOperations::makeFolder(const QModelIndex &parent)
+void FileOperations::connectInstrument(const QvexRemoteFileModel *model)
 {
+    connect(model, &QvexRemoteFileModel::newDirectoryComplete, this, &FileOperations::endMaking);
+    connect(model, &QvexRemoteFileModel::renameComplete, this, &FileOperations::endRenaming);
+}
+
+void FileOperations::makeFolder(const QModelIndex &parent)
+{
+    if (auto *instrument = qobject_cast<QvexRemoteFileModel *>(m_model)) {
+        start(instrument->createDirectory(parent), tr("Making a folder\u2026"), {});
+        return;
+    }
+    const QString folder = m_model ? m_model->filePath(parent) : QString();
     const QString name = m_model ? m_model->newDirectory(parent) : QString();
     if (name.isEmpty()) {
         Q_EMIT failed(tr("No folder could be made here: it may be protected."));
+    } else {
+        Q_EMIT folderMade(FilePaths::join(folder, FilePaths::nameOf(name)));
     }
-    return name;
+}
+
+void FileOperations::endMaking(long result, const QString &path)
+{
+    if (result == QvexFileModel::Done) {
+        Q_EMIT done({});
+        Q_EMIT folderMade(path);
+    } else {
+        Q_EMIT failed(m_model->resultText(result));
+    }
 }
 
 void FileOperations::rename(const QModelIndex &index, const QString &name)
@@ -66,11 +94,23 @@ void FileOperations::rename(const QModelIndex &index, const QString &name)
     const QString oldName = index.data(QvexFileModel::FileNameRole).toString();
     if (!fault.isEmpty()) {
         Q_EMIT failed(fault);
-    } else if (!m_model || !m_model->setData(index, name, Qt::EditRole)) {
-        Q_EMIT failed(tr("\"%1\" can't be renamed to \"%2\": the name may be taken.")
-                          .arg(FileNames::shown(oldName), name));
+    } else if (auto *instrument = qobject_cast<QvexRemoteFileModel *>(m_model)) {
+        start(instrument->rename(index, name), tr("Renaming\u2026"), {});
     } else {
-        Q_EMIT done(tr("Renamed to \"%1\".").arg(name));
+        const bool isDone = m_model && m_model->setData(index, name, Qt::EditRole);
+        endRenaming(isDone ? QvexFileModel::Done : EEXIST, oldName, name);
+    }
+}
+
+void FileOperations::endRenaming(long result, const QString &oldName, const QString &newName)
+{
+    if (result == QvexFileModel::Done) {
+        Q_EMIT done(tr("Renamed to \"%1\".").arg(newName));
+    } else if (result == QvexRemoteFileModel::LinkLost) {
+        Q_EMIT failed(m_model->resultText(result));
+    } else {
+        Q_EMIT failed(tr("\"%1\" can't be renamed to \"%2\": the name may be taken.")
+                          .arg(FileNames::shown(oldName), newName));
     }
 }
 

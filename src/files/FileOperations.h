@@ -8,6 +8,7 @@
 #include "QvexFileModel.h"
 
 class QWidget;
+class QvexRemoteFileModel;
 
 /**
  * What a person does with the entries of a pane: makes, renames, copies, moves and deletes them.
@@ -24,8 +25,8 @@ public:
     /** What all others work on; an operation under way goes on, but is no longer told of. */
     void setPlace(QvexFileModel *model, const FilePlace &place);
 
-    /** @return its name; empty when it could not be made, which failed() tells. */
-    QString makeFolder(const QModelIndex &parent);
+    /** Ends in folderMade() or failed(); on the instrument some time later, as for rename(). */
+    void makeFolder(const QModelIndex &parent);
     void rename(const QModelIndex &index, const QString &name);
     /** Asks, naming what will go. @p entries are the model's. */
     void remove(const QModelIndexList &entries);
@@ -42,8 +43,12 @@ Q_SIGNALS:
     void done(const QString &text);
     void failed(const QString &text);
     void pickedUp();
+    void folderMade(const QString &path);
 
 private:
+    void connectInstrument(const QvexRemoteFileModel *model);
+    void endMaking(long result, const QString &path);
+    void endRenaming(long result, const QString &oldName, const QString &newName);
     void start(long result, const QString &text, const QString &doneText);
     void end(long result, const QString &where);
 

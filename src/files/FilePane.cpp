@@ -197,6 +197,7 @@ void FilePane::connectOperations()
     connect(m_operations, &FileOperations::done, m_status, &StatusStrip::showMessage);
     connect(m_operations, &FileOperations::failed, m_status, &StatusStrip::showError);
     connect(m_operations, &FileOperations::pickedUp, this, &FilePane::updateActions);
+    connect(m_operations, &FileOperations::folderMade, this, &FilePane::awaitFolder);
     connect(m_status, &StatusStrip::cancelRequested, m_operations, &FileOperations::cancel);
 }
 
@@ -322,6 +323,7 @@ void FilePane::showFolder(const QString &path)
     }
     m_lastFolders.insert(m_place.home, clean);
     if (before != clean) {
+        m_awaited.clear();
         m_search->clear();
         m_status->showMessage({});
     }
@@ -463,9 +465,13 @@ void FilePane::act(FileActionBar::Action action)
 void FilePane::makeFolder()
 {
     m_search->clear(); // or else the new one may be hidden
-    const QString name = m_operations->makeFolder(rootIndex());
-    if (!name.isEmpty()) {
-        m_awaited = FilePaths::join(m_folder, FilePaths::nameOf(name));
+    m_operations->makeFolder(rootIndex());
+}
+
+void FilePane::awaitFolder(const QString &path)
+{
+    if (FilePaths::parentOf(path) == m_folder) { // a person may have gone on meanwhile
+        m_awaited = path;
         editAwaited();
     }
 }

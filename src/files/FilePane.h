@@ -94,6 +94,7 @@ private:
     void goUp();
     void act(FileActionBar::Action action);
     void makeFolder();
+    void awaitFolder(const QString &path);
     void editAwaited();
     QModelIndex rootIndex() const;
 

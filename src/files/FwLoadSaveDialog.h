@@ -22,7 +22,8 @@ class FcpAppCORBA;
  * Space selects, Ctrl+A selects all where several may be selected, Escape closes.
  *
  * Nothing waits for the controller: while the link is lost the instrument's side says so and the
- * local side stays usable; it comes back by itself when there is a link again.
+ * local side stays usable; it comes back by itself when there is a link again. Only the destructor
+ * may, if a transfer is under way (see FileTransfer); closing asks and ends the transfer first.
  */
 class VEX_EXPORT FwLoadSaveDialog : public QvexDialog
 {

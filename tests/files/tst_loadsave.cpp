@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QAbstractItemModelTester>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
@@ -183,6 +184,7 @@ private Q_SLOTS:
     void closingWhileCopyingCancels();
     void mayGoAtAnyMoment_data();
     void mayGoAtAnyMoment();
+    void waitsForNoController();
     void saysThatTheLinkIsLostAndRecovers();
     void fitsTheScreen_data();
     void fitsTheScreen();
@@ -536,6 +538,40 @@ void tst_loadsave::mayGoAtAnyMoment()
     delete bench.dialog;
     QTest::qWait(20); // for what was under way to be told to nobody
     QVERIFY(!QvexDialog::activeDialog());
+}
+
+void tst_loadsave::waitsForNoController()
+{
+    Bench bench(Mode::Load, m_link->proxy());
+    bench.dialog->setFolder(Place::Instrument, u"/Internal"_s);
+    bench.open(u"remote.trc"_s);
+    const auto heldFrozen = [this](const std::function<void()> &act) {
+        m_simulator->freeze();
+        QElapsedTimer timer;
+        timer.start();
+        act();
+        QTest::qWait(50);
+        return timer.elapsed() - 50;
+    };
+    QVERIFY(heldFrozen([&] { bench.tap(u"Action_new_folder"_s); }) < 100);
+    bench.tap(u"Action_new_folder"_s); // refused: one is being made
+    m_simulator->thaw();
+    QTRY_VERIFY(bench.part<QLineEdit>(u"RenameEdit"_s));
+    auto *edit = bench.part<QLineEdit>(u"RenameEdit"_s);
+    QTest::keyClicks(edit, u"fresh"_s);
+    QVERIFY(heldFrozen([&] { QTest::keyClick(edit, Qt::Key_Return); }) < 100);
+    QVERIFY(!bench.row(u"fresh"_s).isValid());
+    m_simulator->thaw();
+    QTRY_VERIFY(bench.row(u"fresh"_s).isValid());
+    QVERIFY(QFileInfo(m_simulator->local(u"/Internal/fresh"_s)).isDir());
+    QVERIFY(bench.names().filter(u"New Folder"_s).isEmpty());
+    QVERIFY(heldFrozen([&] {
+                bench.key(Qt::Key_F5);
+                bench.tap(u"Action_new_folder"_s);
+                delete bench.dialog;
+            })
+            < 100);
+    m_simulator->thaw();
 }
 
 void tst_loadsave::saysThatTheLinkIsLostAndRecovers()
