@@ -19,6 +19,7 @@
 #include "FilePaths.h"
 #include "FileSortFilter.h"
 #include "FilesTheme.h"
+#include "FolderWatch.h"
 #include "LinkWatch.h"
 #include "PaneNotice.h"
 #include "PlaceBar.h"
@@ -41,6 +42,7 @@ FilePane::FilePane(const FileStores &stores, LinkWatch *link, bool placesAbove, 
     , m_link(link)
     , m_filter(new FileSortFilter(this))
     , m_operations(new FileOperations(this))
+    , m_watch(new FolderWatch(stores.controller, this))
 {
     setObjectName(u"FilePaneFrame"_s);
     setProperty("active", false);
@@ -58,6 +60,7 @@ FilePane::~FilePane()
     m_list->disconnect(this);
     m_filter->disconnect(this);
     m_operations->disconnect(this);
+    m_watch->disconnect(this);
     if (files()) {
         files()->disconnect(this);
     }
@@ -181,6 +184,8 @@ void FilePane::connectParts()
             showError(tr("The instrument can't be reached."));
         }
     });
+    connect(m_watch, &FolderWatch::failed, this, &FilePane::updateHint);
+    connect(m_watch, &FolderWatch::gone, this, &FilePane::rootMoved);
     connect(m_notice, &PaneNotice::buttonTapped, m_link, &LinkWatch::retry);
     for (QWidget *part : findChildren<QWidget *>()) {
         part->installEventFilter(this);
@@ -287,10 +292,7 @@ void FilePane::useModel(QvexFileModel *model)
     applyFilters(model);
     connect(model, &QvexFileModel::directoryLoaded, this, &FilePane::updateHint);
     connect(model, &QvexFileModel::rootPathChanged, this, &FilePane::rootMoved);
-    // Only what lists over a link can say that it could not.
-    if (model->metaObject()->indexOfSignal("listingFailed(QString)") >= 0) {
-        connect(model, SIGNAL(listingFailed(QString)), this, SLOT(listingFailed(QString)));
-    }
+    m_watch->setModel(model);
 }
 
 void FilePane::applyFilters(QvexFileModel *model) const
@@ -313,11 +315,12 @@ void FilePane::showFolder(const QString &path)
     if (clean == m_folder) {
         refresh();
     }
-    m_failedFolder.clear();
+    m_watch->setFolder(clean);
     const QString before = std::exchange(m_folder, clean);
     const QModelIndex root = files()->setRootPath(clean);
     if (!root.isValid() || files()->filePath(root) != clean) {
         m_folder = before;
+        m_watch->setFolder(before);
         m_status->showError(tr("There is no folder \"%1\".").arg(FileNames::shown(clean)));
         return;
     }
@@ -348,7 +351,7 @@ void FilePane::refresh()
 {
     const QModelIndex root = rootIndex();
     if (root.isValid()) {
-        m_failedFolder.clear();
+        m_watch->setFolder(m_folder);
         files()->refreshDirectory(root);
         updateHint();
     }
@@ -364,18 +367,10 @@ void FilePane::rootMoved(const QString &path)
     m_status->showError(tr("The folder \"%1\" is gone.").arg(FilePaths::shownNameOf(gone)));
 }
 
-void FilePane::listingFailed(const QString &path)
-{
-    if (path == m_folder) {
-        m_failedFolder = path;
-        updateHint();
-    }
-}
-
 void FilePane::updateHint()
 {
     const QModelIndex root = rootIndex();
-    if (m_failedFolder == m_folder) {
+    if (m_watch->hasFailed()) {
         m_list->setHint(tr("This folder can't be listed."));
     } else if (!root.isValid() || !files()->isListed(root)) {
         m_list->setHint(tr("Loading\u2026"));

@@ -10,6 +10,7 @@ class BreadcrumbBar;
 class FileListView;
 class FileOperations;
 class FileSortFilter;
+class FolderWatch;
 class LinkWatch;
 class PaneNotice;
 class PlaceBar;
@@ -73,9 +74,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
-private Q_SLOTS:
-    void listingFailed(const QString &path);
-
 private:
     void makeParts(bool placesAbove);
     void arrange(bool placesAbove);
@@ -104,7 +102,6 @@ private:
     QHash<QString, QString> m_lastFolders; ///< by the home of their place
     FilePlace m_place;
     QString m_folder;
-    QString m_failedFolder; ///< whose listing failed
     QString m_awaited; ///< a new folder's path, until its row is there
     QStringList m_nameFilters;
     QStringList m_vexPatterns;
@@ -124,4 +121,5 @@ private:
     StatusStrip *m_status = nullptr;
     FileSortFilter *m_filter;
     FileOperations *m_operations;
+    FolderWatch *m_watch;
 };
