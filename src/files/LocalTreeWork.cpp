@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QRandomGenerator>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -18,6 +17,7 @@
 #include <vector>
 
 #include "QvexFileModel.h"
+#include "TemporaryName.h"
 
 namespace {
 
@@ -186,9 +186,14 @@ int renameAt(int fromFolder, const QByteArray &from, int toFolder, const QByteAr
     return outcome(::renameat(fromFolder, from.constData(), toFolder, to.constData()));
 }
 
-QByteArray hiddenName()
+/// Whether it is an unfinished copy that nobody works on any more.
+bool isLeftover(const QByteArray &name)
 {
-    return ".vex-" + QByteArray::number(QRandomGenerator::system()->generate64(), 16) + ".part";
+    if (!name.startsWith('.') || !name.contains(".vexpart")) { // as most of many are not
+        return false;
+    }
+    const auto leftover = TemporaryName::leftover(QFile::decodeName(name));
+    return leftover && !leftover->isBackup;
 }
 
 } // namespace
@@ -320,6 +325,24 @@ void LocalTreeWork::removeLeftover(const Place &place)
     m_opensFolders = false;
 }
 
+/// What processes have left of their copies that were killed over them; a failure is none.
+void LocalTreeWork::removeLeftovers(int directory)
+{
+    struct stat status;
+    std::vector<QByteArray> names;
+    if (::fstat(directory, &status) != 0 || (m_cleared && isSame(*m_cleared, status))) {
+        return;
+    }
+    m_cleared = status;
+    std::ignore = namesIn(directory, names);
+    for (const QByteArray &name : names) {
+        if (isLeftover(name)) {
+            removeLeftover(Place {directory, name, name});
+        }
+    }
+    m_stoppedAt.clear();
+}
+
 int LocalTreeWork::copyInto(const QString &source, const QString &folder)
 {
     Errand errand;
@@ -329,7 +352,10 @@ int LocalTreeWork::copyInto(const QString &source, const QString &folder)
 
 int LocalTreeWork::copyWhole(const Errand &errand)
 {
-    const Place hidden {errand.target.directory, hiddenName(), errand.source.path};
+    removeLeftovers(errand.target.directory);
+    const TemporaryName temporary(QFile::decodeName(errand.target.name));
+    const Place hidden {errand.target.directory, QFile::encodeName(temporary.part()),
+                        errand.source.path};
     m_flushesFiles = !S_ISDIR(errand.status.st_mode); // else all of them in one go
     int error = copyEntry(errand.source, hidden);
     if (error == 0 && !m_flushesFiles) {

@@ -6,12 +6,16 @@
 #include <sys/stat.h>
 
 #include <atomic>
+#include <optional>
 
 #include "FileDescriptor.h"
 
 /**
  * Deletes, copies and moves single entries of the local disk with everything in them, below
  * directories that it holds open: no link is followed and no path is looked up twice.
+ *
+ * A copy is made under a TemporaryName and gets its own when it is whole. What a process that was
+ * killed has left of one is removed when something is next copied into that folder.
  *
  * Methods return a result of LocalHelperThread; stoppedAt() is the path that one other than 0 is
  * about.
@@ -54,6 +58,7 @@ private:
     int removeEntry(const Place &place, const Place *copy = nullptr);
     int removeFolder(const Place &place, const Place *copy);
     void removeLeftover(const Place &place);
+    void removeLeftovers(int directory);
     int copyWhole(const Errand &errand);
     int copyEntry(const Place &from, const Place &to);
     int copyFile(const Place &from, const Place &to);
@@ -68,4 +73,5 @@ private:
     bool m_flushesFiles = true; ///< each by itself
     bool m_opensFolders = false; ///< makes the folders that it empties writable first
     QByteArray m_stoppedAt;
+    std::optional<struct stat> m_cleared; ///< the folder without leftovers
 };

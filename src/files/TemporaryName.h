@@ -4,6 +4,8 @@
 
 #include <optional>
 
+#include "VexExport.h"
+
 /**
  * The name under which a file is written before it gets its own: ".NAME.HOST-PID-NUMBER.vexpart",
  * where NAME is shortened when the whole would become too long for a name.
@@ -11,7 +13,7 @@
  * While the object lives, its names are in use. Those of a process of this machine that has ended,
  * or of an object that has gone, are leftovers; what another machine has written is left alone.
  */
-class TemporaryName
+class VEX_EXPORT TemporaryName
 {
 public:
     /** For a file that is to be called @p name. */

@@ -1,5 +1,6 @@
 #include <QDirIterator>
 #include <QFile>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,6 +19,7 @@
 #include "LocalFiles.h"
 #include "files/LocalHelperThread.h"
 #include "files/QvexFileModel.h"
+#include "files/TemporaryName.h"
 
 using namespace Qt::StringLiterals;
 using Operation = LocalHelperThread::Operation;
@@ -114,6 +116,7 @@ private Q_SLOTS:
     void cancelledAtAnyTimeLeavesWholeEntriesOnly_data();
     void cancelledAtAnyTimeLeavesWholeEntriesOnly();
     void endsAtTheFirstFailure();
+    void removesWhatAKilledProcessLeft();
 
 private:
     QString path(const QString &name) const { return m_folder->path() + u'/' + name; }
@@ -328,7 +331,7 @@ void LocalOperationsTest::cancelledAtAnyTimeLeavesWholeEntriesOnly()
         }
         QVERIFY(QDir(place)
                     .entryList(QDir::Hidden | QDir::AllEntries | QDir::NoDotAndDotDot)
-                    .filter(u".part"_s)
+                    .filter(u"vexpart"_s)
                     .isEmpty());
         QVERIFY(operation != Operation::Move || moved.size() == 1);
     }
@@ -344,6 +347,31 @@ void LocalOperationsTest::endsAtTheFirstFailure()
     QCOMPARE(m_stoppedAt, path(u"from/none"_s));
     QCOMPARE(treeOf(path(u"to"_s)), QStringList(u"/file f"_s));
     QVERIFY(QFile::exists(path(u"from/tree/one"_s)));
+}
+
+void LocalOperationsTest::removesWhatAKilledProcessLeft()
+{
+    QProcess dead;
+    dead.start(u"true"_s, {});
+    QVERIFY(dead.waitForStarted());
+    const QString deadId = QString::number(dead.processId());
+    QVERIFY(dead.waitForFinished());
+    const QString own = TemporaryName(u"tree"_s).part();
+    const auto of = [this, &own](const QString &process) {
+        const QString id = u"-%1-"_s.arg(QCoreApplication::applicationPid());
+        return path(u"to/"_s + QString(own).replace(id, u"-%1-"_s.arg(process)));
+    };
+    const QString living = of(QString::number(::getppid()));
+    const QString backup = of(deadId).replace(u".vexpart"_s, u".vexold"_s);
+    for (const QString &each : {of(deadId), living, backup}) {
+        writeFile(each + u"/deep/half"_s, "h");
+    }
+    QVERIFY(QFile::setPermissions(of(deadId) + u"/deep"_s, QFile::ReadOwner | QFile::ExeOwner));
+
+    QCOMPARE(run(Operation::Copy, {path(u"from/file"_s)}, path(u"to"_s)), 0);
+    QVERIFY(!QFileInfo::exists(of(deadId)));
+    QVERIFY(QFileInfo::exists(living + u"/deep/half"_s));
+    QVERIFY(QFileInfo::exists(backup + u"/deep/half"_s)); // whole, and maybe all that there is
 }
 
 QTEST_GUILESS_MAIN(LocalOperationsTest)
