@@ -45,7 +45,7 @@ QPushButton *NumpadKeys::makeKey(const QString &name)
     auto *key = new QPushButton(this);
     key->setObjectName(name);
     key->setFocusPolicy(Qt::TabFocus);
-    key->setMinimumSize(NarrowKeyWidth, KeyHeight);
+    key->setMinimumSize(NarrowKeyWidth, m_keyHeight);
     key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     return key;
 }
@@ -140,9 +140,19 @@ void NumpadKeys::spread()
         m_grid->setColumnStretch(column, column < used ? 1 : 0);
     }
     for (int row = 0; row < Rows; ++row) {
-        m_grid->setRowMinimumHeight(row, KeyHeight);
+        m_grid->setRowMinimumHeight(row, m_keyHeight);
         m_grid->setRowStretch(row, 1);
     }
+}
+
+void NumpadKeys::setLow(bool low)
+{
+    m_keyHeight = low ? LowKeyHeight : KeyHeight;
+    m_grid->setSpacing(low ? LowGap : Gap);
+    for (QPushButton *key : findChildren<QPushButton *>()) {
+        key->setMinimumHeight(m_keyHeight);
+    }
+    spread();
 }
 
 void NumpadKeys::setTexts(Command command, const QString &text, const QString &name)

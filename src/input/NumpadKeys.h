@@ -10,7 +10,8 @@ class QGridLayout;
 class QPushButton;
 
 /**
- * The keys of the numpad, digits in the order of a telephone, each 64 pixels high or more. There
+ * The keys of the numpad, digits in the order of a telephone, each 64 pixels high or more, 48 on a
+ * low screen. There
  * are only those of the field's notation. A tap leaves the focus where it is; the keyboard
  * reaches all keys by Tab.
  */
@@ -23,10 +24,12 @@ public:
     Q_ENUM(Command)
 
     static constexpr int KeyHeight = 64;
+    static constexpr int LowKeyHeight = 48;
     static constexpr int KeyWidth = 80;
     /// Of many columns, so that the keypad still fits beside a field in the screen's middle.
     static constexpr int NarrowKeyWidth = 64;
     static constexpr int Gap = 8;
+    static constexpr int LowGap = 4;
 
     explicit NumpadKeys(NumericField::Notation notation, QWidget *parent = nullptr);
 
@@ -37,6 +40,8 @@ public:
     /** What the keys that fill the entry would fill in, for those who can't see the range. */
     void setDescription(Command command, const QString &text);
     void updateTexts();
+    /** For a low screen: KeyHeight and Gap, or LowKeyHeight and LowGap. */
+    void setLow(bool low);
 
 Q_SIGNALS:
     void typed(const QString &digit);
@@ -54,5 +59,6 @@ private:
     QGridLayout *m_grid;
     QHash<Command, QPushButton *> m_commands;
     QList<QPushButton *> m_unitKeys;
+    int m_keyHeight = KeyHeight;
     int m_columns = 0;
 };

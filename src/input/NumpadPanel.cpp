@@ -15,7 +15,9 @@ namespace {
 
 constexpr int Spacing = 8;
 constexpr int MarkSize = 24;
+constexpr int LowSpacing = 4;
 constexpr int ReasonHeight = 40; // two lines
+constexpr int LowReasonHeight = 20;
 constexpr int Margin = 4;
 /// As many are seen in an ordinary entry, in its ordinary type.
 constexpr int EntryDigits = 22;
@@ -111,11 +113,13 @@ void NumpadPanel::addVerdict(QVBoxLayout *column)
 
 void NumpadPanel::addCheckBoxes(QVBoxLayout *column)
 {
+    m_tickBoxes = new QBoxLayout(QBoxLayout::TopToBottom);
+    column->addLayout(m_tickBoxes);
     const auto add = [&](const QString &name) {
         auto *box = new TickBox(this);
         box->setObjectName(name);
         box->setFocusPolicy(Qt::TabFocus);
-        column->addWidget(box);
+        m_tickBoxes->addWidget(box);
         return box;
     };
     m_displayPassword = add(u"DisplayPassword"_s);
@@ -144,6 +148,19 @@ void NumpadPanel::addButtons(QVBoxLayout *column)
         row->addWidget(button, 1);
     }
     column->addLayout(row);
+}
+
+void NumpadPanel::setLow(bool low)
+{
+    layout()->setSpacing(low ? LowSpacing : Spacing);
+    m_reason->setFixedHeight(low ? LowReasonHeight : ReasonHeight);
+    m_keys->setLow(low);
+    if (m_tickBoxes != nullptr) {
+        m_tickBoxes->setDirection(low ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    }
+    for (QPushButton *button : {m_digitsButton, m_cancelButton, m_okButton}) {
+        button->setMinimumHeight(low ? NumpadKeys::LowKeyHeight : NumpadKeys::KeyHeight);
+    }
 }
 
 void NumpadPanel::showField(const NumericField &field, const QString &unit)

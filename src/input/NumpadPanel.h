@@ -6,6 +6,7 @@
 #include "NumpadKeys.h"
 
 class NumpadEntry;
+class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -34,6 +35,8 @@ public:
     /** Colours the entry, says why, and enables OK for what is valid. */
     void showVerdict(const NumericField::Verdict &verdict);
     void updateTexts();
+    /** Makes keys and gaps as small as fingers allow, for a low screen. */
+    void setLow(bool low);
     /** Takes the colours of the palette. */
     void updateStyle();
 
@@ -52,6 +55,7 @@ private:
     QLabel *m_reason = nullptr;
     QLabel *m_range = nullptr;
     NumpadKeys *m_keys = nullptr;
+    QBoxLayout *m_tickBoxes = nullptr; ///< of a password
     TickBox *m_removeProtection = nullptr;
     TickBox *m_displayPassword = nullptr;
     QPushButton *m_digitsButton = nullptr;

@@ -9,6 +9,13 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The height in pixels below which a window has no room for keys of the usual size.
+constexpr int LowScreen = 640;
+
+} // namespace
+
 QvexNumpadDlg::QvexNumpadDlg(QWidget *field, int inpType, const char *name)
     : QvexDialog(field, true, false)
     , d(std::make_unique<Private>(this, field, inpType))
@@ -348,6 +355,8 @@ void QvexNumpadDlg::UpdateText()
 void QvexNumpadDlg::setVisible(bool visible)
 {
     if (visible && isHidden()) {
+        const QWidget *application = parentApplication();
+        d->panel().setLow(application != nullptr && application->height() < LowScreen);
         d->begin();
     } else if (!visible && d->isSecret()) {
         displayPasswordSetChecked(false);

@@ -118,6 +118,8 @@ private Q_SLOTS:
     void followsTheProgramUntilSomethingIsTyped();
     void opensBesideItsField_data();
     void opensBesideItsField();
+    void fitsALowScreen_data();
+    void fitsALowScreen();
     void holdingRepeatsBackspaceOnly();
     void hidesAPassword();
     void digitsKeyLeavesForTheOtherEditor();
@@ -377,6 +379,37 @@ void TestNumpad::opensBesideItsField()
             bench.screen.findChild<QWidget *>(u"DlgBorder"_s)->geometry() | bench.numpad.geometry();
         QVERIFY2(!border.intersects(field), qPrintable(QString::number(type)));
         QVERIFY(bench.screen.rect().contains(border));
+    }
+}
+
+void TestNumpad::fitsALowScreen_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("decimal") << int(QvexNumpadDlg::Decimal);
+    QTest::newRow("hexadecimal") << int(QvexNumpadDlg::Hexadecimal);
+    QTest::newRow("password") << int(QvexNumpadDlg::Password);
+}
+
+void TestNumpad::fitsALowScreen()
+{
+    QFETCH(int, type);
+    QWidget window;
+    window.resize(800, 480);
+    window.show();
+    QvexNumpadDlg numpad(&window, type);
+    numpad.open();
+    QTRY_VERIFY(numpad.height() >= numpad.minimumSizeHint().height());
+    const QList<QPushButton *> keys = numpad.findChildren<QPushButton *>();
+    for (const QPushButton *key : keys) {
+        if (!key->isVisible()) {
+            continue;
+        }
+        const QRect place(key->mapTo(&window, QPoint()), key->size());
+        QVERIFY2(window.rect().contains(place) && key->height() >= 48, qPrintable(key->text()));
+        for (const QPushButton *other : keys) {
+            const QRect theirs(other->mapTo(&window, QPoint()), other->size());
+            QVERIFY(other == key || !other->isVisible() || !place.intersects(theirs));
+        }
     }
 }
 
