@@ -374,8 +374,10 @@ void FilePane::updateHint()
         m_list->setHint(tr("This folder can't be listed."));
     } else if (!root.isValid() || !files()->isListed(root)) {
         m_list->setHint(tr("Loading\u2026"));
+    } else if (m_filter->isSearching()) {
+        m_list->setHint(tr("Nothing here fits the search."));
     } else {
-        m_list->setHint(m_filter->isFiltering() ? tr("Nothing here fits the search.")
+        m_list->setHint(m_filter->isFiltering() ? tr("There are no files of this type here.")
                                                 : tr("This folder is empty."));
     }
 }

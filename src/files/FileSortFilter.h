@@ -34,7 +34,8 @@ public:
     /** Wildcards for the names of files; none passes all. */
     void setPatterns(const QStringList &patterns);
     /** Whether there may be entries that don't pass. */
-    bool isFiltering() const { return !m_search.isEmpty() || !m_patterns.isEmpty(); }
+    bool isSearching() const { return !m_search.isEmpty(); }
+    bool isFiltering() const { return isSearching() || !m_patterns.isEmpty(); }
 
     QModelIndex mapToSource(const QModelIndex &index) const override;
     /** Invalid for what is not in the folder or does not pass. */

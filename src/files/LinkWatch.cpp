@@ -10,6 +10,17 @@
 
 using namespace std::chrono_literals;
 
+namespace {
+
+/// Attempts to connect, which may take longer than a dialog is there.
+QThreadPool &attempts()
+{
+    static QThreadPool pool;
+    return pool;
+}
+
+} // namespace
+
 LinkWatch::LinkWatch(FcpAppCORBA *controller, QObject *parent)
     : QObject(parent)
     , m_controller(controller)
@@ -63,19 +74,21 @@ void LinkWatch::retry()
         return;
     }
     m_retrying = true;
-    // A host that does not answer keeps the attempt longer than a dialog may be kept from closing.
-    QThreadPool::globalInstance()->start(
-        [controller = m_controller, self = QPointer<LinkWatch>(this)] {
-            controller->connectToFCP(controller->getHost(), controller->getPort());
-            QMetaObject::invokeMethod(
-                controller,
-                [self] {
-                    if (self) {
-                        self->endRetry();
-                    }
-                },
-                Qt::QueuedConnection);
-        });
+    // The proxy must not go before the attempt has ended. The dialog may.
+    connect(
+        m_controller, &FcpAppCORBA::ending, m_controller, [] { attempts().waitForDone(); },
+        Qt::DirectConnection);
+    attempts().start([controller = m_controller, self = QPointer<LinkWatch>(this)] {
+        controller->connectToFCP(controller->getHost(), controller->getPort());
+        QMetaObject::invokeMethod(
+            controller,
+            [self] {
+                if (self) {
+                    self->endRetry();
+                }
+            },
+            Qt::QueuedConnection);
+    });
 }
 
 void LinkWatch::endRetry()

@@ -280,6 +280,14 @@
         <source>Copied.</source>
         <translation>Kopiert.</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>Ordner wird angelegt…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>Wird umbenannt…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -354,6 +362,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>Nur Dateien von %1 anzeigen</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>Hier gibt es keine Dateien dieses Typs.</translation>
     </message>
 </context>
 <context>
@@ -1250,6 +1262,10 @@ Bitte geben Sie das richtige Passwort ein!</translation>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>Das Gerät hat den Fehler %1 gemeldet.</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>Hier konnte kein Ordner angelegt werden: Vielleicht ist der Ort geschützt.</translation>
     </message>
 </context>
 <context>

@@ -280,6 +280,14 @@
         <source>Copied.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -353,6 +361,10 @@
     </message>
     <message>
         <source>List only files of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1248,6 +1260,10 @@ Please Type Correct Password!</source>
     </message>
     <message>
         <source>The instrument reported error %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -280,6 +280,14 @@
         <source>Copied.</source>
         <translation>Copia completada.</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>Creando una carpeta…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>Cambiando el nombre…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -354,6 +362,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>Mostrar solo los archivos de %1</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>Aquí no hay archivos de este tipo.</translation>
     </message>
 </context>
 <context>
@@ -1250,6 +1262,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>El instrumento ha comunicado el error %1.</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>No se pudo crear una carpeta aquí: puede que esté protegido.</translation>
     </message>
 </context>
 <context>

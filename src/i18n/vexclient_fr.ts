@@ -280,6 +280,14 @@
         <source>Copied.</source>
         <translation>Copie terminée.</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>Création d&apos;un dossier…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>Changement de nom…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -354,6 +362,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>N&apos;afficher que les fichiers de %1</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>Aucun fichier de ce type ici.</translation>
     </message>
 </context>
 <context>
@@ -1250,6 +1262,10 @@ Veuillez saisir le mot de passe correct&#xa0;!</translation>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>L&apos;instrument a signalé l&apos;erreur %1.</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>Impossible de créer un dossier ici : l&apos;emplacement est peut-être protégé.</translation>
     </message>
 </context>
 <context>

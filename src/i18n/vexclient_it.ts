@@ -283,6 +283,14 @@
         <source>Copied.</source>
         <translation>Copia completata.</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>Creazione di una cartella…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>Ridenominazione…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -357,6 +365,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>Mostra solo i file di %1</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>Qui non ci sono file di questo tipo.</translation>
     </message>
 </context>
 <context>
@@ -1255,6 +1267,10 @@ Digitare la password corretta.</translation>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>Lo strumento ha segnalato l&apos;errore %1.</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>Impossibile creare una cartella qui: forse la posizione è protetta.</translation>
     </message>
 </context>
 <context>

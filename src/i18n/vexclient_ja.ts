@@ -280,6 +280,14 @@
         <source>Copied.</source>
         <translation>コピーしました。</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>フォルダーを作成中…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>名前を変更中…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -354,6 +362,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>%1 のファイルだけを表示</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>この種類のファイルはここにはありません。</translation>
     </message>
 </context>
 <context>
@@ -1248,6 +1260,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>測定器がエラー %1 を報告しました。</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>ここにフォルダーを作成できませんでした。保護されている可能性があります。</translation>
     </message>
 </context>
 <context>

@@ -280,6 +280,14 @@
         <source>Copied.</source>
         <translation>복사했습니다.</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>폴더를 만드는 중…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>이름을 바꾸는 중…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -354,6 +362,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>%1의 파일만 표시</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>이 형식의 파일이 여기에 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1248,6 +1260,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>계측기가 오류 %1을(를) 보고했습니다.</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>여기에 폴더를 만들 수 없습니다. 보호된 위치일 수 있습니다.</translation>
     </message>
 </context>
 <context>

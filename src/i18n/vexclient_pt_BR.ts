@@ -283,6 +283,14 @@
         <source>Copied.</source>
         <translation>Cópia concluída.</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>Criando uma pasta…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>Renomeando…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -357,6 +365,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>Mostrar somente os arquivos de %1</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>Não há arquivos deste tipo aqui.</translation>
     </message>
 </context>
 <context>
@@ -1255,6 +1267,10 @@ Digite a senha correta.</translation>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>O instrumento informou o erro %1.</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>Não foi possível criar uma pasta aqui: o local pode estar protegido.</translation>
     </message>
 </context>
 <context>

@@ -283,6 +283,14 @@
         <source>Copied.</source>
         <translation>Копирование завершено.</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>Создание папки…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>Переименование…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -357,6 +365,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>Показывать только файлы %1</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>Здесь нет файлов этого типа.</translation>
     </message>
 </context>
 <context>
@@ -1258,6 +1270,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>Прибор сообщил об ошибке %1.</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>Не удалось создать здесь папку: возможно, место защищено.</translation>
     </message>
 </context>
 <context>

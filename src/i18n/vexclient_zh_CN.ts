@@ -280,6 +280,14 @@
         <source>Copied.</source>
         <translation>已复制。</translation>
     </message>
+    <message>
+        <source>Making a folder…</source>
+        <translation>正在创建文件夹…</translation>
+    </message>
+    <message>
+        <source>Renaming…</source>
+        <translation>正在重命名…</translation>
+    </message>
 </context>
 <context>
     <name>FilePane</name>
@@ -354,6 +362,10 @@
     <message>
         <source>List only files of %1</source>
         <translation>仅列出 %1 的文件</translation>
+    </message>
+    <message>
+        <source>There are no files of this type here.</source>
+        <translation>此处没有此类型的文件。</translation>
     </message>
 </context>
 <context>
@@ -1248,6 +1260,10 @@ Please Type Correct Password!</source>
     <message>
         <source>The instrument reported error %1.</source>
         <translation>仪器报告了错误 %1。</translation>
+    </message>
+    <message>
+        <source>No folder could be made here: it may be protected.</source>
+        <translation>无法在此处创建文件夹：此位置可能受保护。</translation>
     </message>
 </context>
 <context>
