@@ -12,34 +12,36 @@ Finger::Finger(QWidget &window)
 {
 }
 
+Finger::~Finger() = default;
+
 void Finger::press(QPoint position)
 {
-    QTest::touchEvent(m_window.windowHandle(), m_screen).press(0, position);
+    QTest::touchEvent(m_window.windowHandle(), m_screen.get()).press(0, position);
 }
 
 void Finger::move(QPoint position)
 {
-    QTest::touchEvent(m_window.windowHandle(), m_screen).move(0, position);
+    QTest::touchEvent(m_window.windowHandle(), m_screen.get()).move(0, position);
 }
 
 void Finger::release(QPoint position)
 {
-    QTest::touchEvent(m_window.windowHandle(), m_screen).release(0, position);
+    QTest::touchEvent(m_window.windowHandle(), m_screen.get()).release(0, position);
 }
 
 void Finger::pressTwo(QPoint one, QPoint other)
 {
-    QTest::touchEvent(m_window.windowHandle(), m_screen).press(0, one).press(1, other);
+    QTest::touchEvent(m_window.windowHandle(), m_screen.get()).press(0, one).press(1, other);
 }
 
 void Finger::moveTwo(QPoint one, QPoint other)
 {
-    QTest::touchEvent(m_window.windowHandle(), m_screen).move(0, one).move(1, other);
+    QTest::touchEvent(m_window.windowHandle(), m_screen.get()).move(0, one).move(1, other);
 }
 
 void Finger::releaseTwo(QPoint one, QPoint other)
 {
-    QTest::touchEvent(m_window.windowHandle(), m_screen).release(0, one).release(1, other);
+    QTest::touchEvent(m_window.windowHandle(), m_screen.get()).release(0, one).release(1, other);
 }
 
 void Finger::turnWheel(QPoint position, int notches)

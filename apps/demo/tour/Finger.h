@@ -2,6 +2,8 @@
 
 #include <QPoint>
 
+#include <memory>
+
 class QPointingDevice;
 class QWidget;
 
@@ -13,6 +15,8 @@ class Finger
 {
 public:
     explicit Finger(QWidget &window);
+    ~Finger();
+    Q_DISABLE_COPY_MOVE(Finger)
 
     void press(QPoint position);
     void move(QPoint position);
@@ -28,5 +32,5 @@ public:
 
 private:
     QWidget &m_window;
-    QPointingDevice *m_screen; ///< the toolkit's
+    const std::unique_ptr<QPointingDevice> m_screen;
 };
