@@ -37,16 +37,17 @@ int run(const Options &options, QVector<QString> &words)
 {
     Settings settings(options.settingsFolder);
     ControllerLink link;
+    const bool isTour = !options.tourFolder.isEmpty();
+    if (options.useLink && !isTour) {
+        link.start(options.host, options.port); // comes up while the window is made
+    }
     Meter meter(std::make_unique<SimulatedSource>());
     MeterWindow window(words, settings, meter, link, options.resultsFolder);
     const Framework framework(window, meter, link);
     window.resize(options.size);
     const StartReport report(window, link);
     window.show();
-    if (options.tourFolder.isEmpty()) {
-        if (options.useLink) {
-            link.start(options.host, options.port);
-        }
+    if (!isTour) {
         return QApplication::exec();
     }
     Tour tour(window, settings, meter, link, options.tourFolder, options.resultsFolder);
