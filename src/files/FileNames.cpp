@@ -81,11 +81,6 @@ QString FileNames::numbered(const QString &name, int number)
     return shortened(base, LongestName - end.toUtf8().size()) + end;
 }
 
-QString FileNames::joined(const QString &folder, const QString &name)
-{
-    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
-}
-
 QString FileNames::shown(const QString &name)
 {
     if (std::all_of(name.cbegin(), name.cend(), isOrdinary)) {

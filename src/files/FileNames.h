@@ -21,9 +21,6 @@ QString shortened(const QString &name, qsizetype bytes);
 /** "name (2).suffix" for @p number 2; not longer than a name may be. */
 QString numbered(const QString &name, int number);
 
-/** @p folder and @p name with one slash between. */
-QString joined(const QString &folder, const QString &name);
-
 /**
  * @p name, or a path, with visible signs for what a line of text can't show: what would break the
  * line, turn its direction around, or is no text.

@@ -5,6 +5,7 @@
 /// Absolute paths with "/" between their names, of either place.
 namespace FilePaths {
 
+/// With one slash between.
 QString join(const QString &folder, const QString &name);
 /// "/" for what has none.
 QString parentOf(const QString &path);

@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include "FileNames.h"
+#include "FilePaths.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ TransferSource::Entry entryOf(const QFileInfo &info)
 
 TransferStep LocalSource::look(const QString &folder, const QString &name, Entry &entry)
 {
-    const QFileInfo info(FileNames::joined(folder, name));
+    const QFileInfo info(FilePaths::join(folder, name));
     if (!info.exists() && !info.isSymLink()) {
         return TransferStep::failed(tr("it is not there"));
     }

@@ -15,6 +15,7 @@
 #include <cstdio>
 
 #include "FileNames.h"
+#include "FilePaths.h"
 #include "TemporaryName.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -60,7 +61,7 @@ int renameFile(const QByteArray &from, const QByteArray &to, bool replace)
 TransferStep LocalTarget::find(const QString &folder, const QString &name,
                                std::optional<Entry> &entry)
 {
-    const QString path = FileNames::joined(folder, name);
+    const QString path = FilePaths::join(folder, name);
     struct stat status = {};
     entry.reset();
     if (::lstat(QFile::encodeName(path).constData(), &status) == 0) {
@@ -73,7 +74,7 @@ TransferStep LocalTarget::find(const QString &folder, const QString &name,
 
 TransferStep LocalTarget::makeFolder(const QString &folder, const QString &name)
 {
-    const QString path = FileNames::joined(folder, name);
+    const QString path = FilePaths::join(folder, name);
     if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) {
         if (errno == EEXIST) {
             return TransferStep::exists();
@@ -106,7 +107,7 @@ TransferStep LocalTarget::removeLeftovers(const QString &folder, const QString &
 {
     const QStringList names = leftoversIn(folder).take(TemporaryName::stemOf(name));
     for (const QString &leftover : names) {
-        QFile::remove(FileNames::joined(folder, leftover));
+        QFile::remove(FilePaths::join(folder, leftover));
     }
     return TransferStep::done();
 }
@@ -114,8 +115,8 @@ TransferStep LocalTarget::removeLeftovers(const QString &folder, const QString &
 TransferStep LocalTarget::commit(const QString &folder, const TemporaryName &temporary,
                                  const QString &name, qint64 size, bool replace)
 {
-    const QString part = FileNames::joined(folder, temporary.part());
-    const QString target = FileNames::joined(folder, name);
+    const QString part = FilePaths::join(folder, temporary.part());
+    const QString target = FilePaths::join(folder, name);
     if (QFileInfo(part).size() != size) {
         return TransferStep::failed(tr("%1 was changed while it was written").arg(part));
     }
@@ -136,7 +137,7 @@ TransferStep LocalTarget::commit(const QString &folder, const TemporaryName &tem
 
 TransferStep LocalTarget::discard(const QString &folder, const TemporaryName &temporary)
 {
-    QFile part(FileNames::joined(folder, temporary.part()));
+    QFile part(FilePaths::join(folder, temporary.part()));
     if (part.exists() && !part.remove()) {
         return TransferStep::failed(
             tr("%1 cannot be removed: %2").arg(part.fileName(), part.errorString()));

@@ -1,5 +1,6 @@
 #include "QvexRemoteFileModel.h"
 
+#include "FilePaths.h"
 #include "QvexRemoteFileModel_p.h"
 #include "corba/FcpAppCORBA.h"
 
@@ -200,7 +201,7 @@ void QvexRemoteFileModel::renameComplete_i(long result, const QString &path, con
     }
     d->renamed = QModelIndex();
     if (!path.isEmpty()) {
-        d->refresh(QvexRemoteFileSystemAbstract::directoryOf(path));
+        d->refresh(FilePaths::parentOf(path));
     }
     Q_EMIT renameComplete(result, oldName, newName);
 }

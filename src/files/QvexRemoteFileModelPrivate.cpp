@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "FileNames.h"
+#include "FilePaths.h"
 #include "LateThread.h"
 #include "corba/FcpAppCORBA.h"
 
@@ -367,14 +368,14 @@ void QvexRemoteFileModel::Private::giveName(RemoteNode *node, const QString &new
     const QString oldName = std::exchange(node->item.name, newName);
     const QString directory = tree.path(node->parent);
     rowsChanged(node->parent, node->row, node->row);
-    followRename(oldPath, QvexRemoteFileSystemAbstract::join(directory, newName));
+    followRename(oldPath, FilePaths::join(directory, newName));
     Q_EMIT q->fileRenamed(directory, oldName, newName);
 }
 
 void QvexRemoteFileModel::Private::followRename(const QString &oldPath, const QString &newPath)
 {
     std::vector<RemoteNode *> outdated;
-    const QString directory = QvexRemoteFileSystemAbstract::directoryOf(oldPath);
+    const QString directory = FilePaths::parentOf(oldPath);
     for (const auto &[node, listing] : listings) {
         if (listing.path == directory || listing.path == oldPath
             || listing.path.startsWith(oldPath + u'/')) {
@@ -409,7 +410,7 @@ void QvexRemoteFileModel::Private::taskReported(const QString &source, bool fina
         expectEntries(taskDestination);
     }
     if (const QString path = QvexRemoteFileSystemAbstract::cleanPath(source); !source.isEmpty()) {
-        refresh(QvexRemoteFileSystemAbstract::directoryOf(path));
+        refresh(FilePaths::parentOf(path));
     }
     if (final) {
         taskRuns = false;

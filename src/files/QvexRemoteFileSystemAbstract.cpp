@@ -1,4 +1,5 @@
 #include "QvexRemoteFileSystemAbstract.h"
+#include "FilePaths.h"
 
 #include <QDir>
 
@@ -34,17 +35,6 @@ QString QvexRemoteFileSystemAbstract::cleanPath(const QString &path)
     return path.contains(QChar::Null) ? QString() : QDir::cleanPath(u'/' + path);
 }
 
-QString QvexRemoteFileSystemAbstract::directoryOf(const QString &path)
-{
-    const qsizetype slash = path.lastIndexOf(u'/');
-    return slash <= 0 ? u"/"_s : path.first(slash);
-}
-
-QString QvexRemoteFileSystemAbstract::join(const QString &directory, const QString &name)
-{
-    return directory.endsWith(u'/') ? directory + name : directory + u'/' + name;
-}
-
 bool QvexRemoteFileSystemAbstract::hasPath(const RemoteNode *node)
 {
     while (node->parent && node->nameable) {
@@ -62,7 +52,7 @@ QString QvexRemoteFileSystemAbstract::path(const RemoteNode *node) const
         return {};
     }
     const QString above = path(node->parent);
-    return above.isEmpty() ? above : join(above, node->item.name);
+    return above.isEmpty() ? above : FilePaths::join(above, node->item.name);
 }
 
 RemoteNode *QvexRemoteFileSystemAbstract::find(const QString &path)

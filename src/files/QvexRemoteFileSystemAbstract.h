@@ -22,9 +22,6 @@ public:
     static bool isName(const QString &name);
     /** Absolute, without "." and "..", without a slash at its end; empty if it can't be one. */
     static QString cleanPath(const QString &path);
-    /** The directory that holds @p path. */
-    static QString directoryOf(const QString &path);
-    static QString join(const QString &directory, const QString &name);
 
     /** Whether the node and all directories above it have a name for a path. */
     static bool hasPath(const RemoteNode *node);

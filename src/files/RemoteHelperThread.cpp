@@ -1,7 +1,7 @@
 #include "RemoteHelperThread.h"
 
+#include "FilePaths.h"
 #include "QvexRemoteFileModel.h"
-#include "QvexRemoteFileSystemAbstract.h"
 #include "corba/FcpAppCORBA.h"
 
 namespace {
@@ -108,17 +108,16 @@ long RemoteHelperThread::makeFolder(const QString &parent)
 {
     const QString made = m_controller->newDirectory(parent);
     const QString name = made.sliced(made.lastIndexOf(u'/') + 1);
-    m_made = name.isEmpty() ? QString() : QvexRemoteFileSystemAbstract::join(parent, name);
+    m_made = name.isEmpty() ? QString() : FilePaths::join(parent, name);
     return name.isEmpty() ? long(QvexRemoteFileModel::NotMade) : 0L;
 }
 
 long RemoteHelperThread::rename(const QString &path) const
 {
-    using Tree = QvexRemoteFileSystemAbstract;
     const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
     return name == m_destination
         ? 0L
-        : m_controller->renameFileDirectory(Tree::directoryOf(path), name, m_destination);
+        : m_controller->renameFileDirectory(FilePaths::parentOf(path), name, m_destination);
 }
 
 void RemoteHelperThread::report(long result, const QString &source, const QString &destination,

@@ -3,6 +3,7 @@
 #include <QLoggingCategory>
 
 #include "FileNames.h"
+#include "FilePaths.h"
 #include "TemporaryName.h"
 #include "TransferLink.h"
 
@@ -71,12 +72,12 @@ TransferStep RemoteTarget::makeFolder(const QString &folder, const QString &name
     const QString madeName = made.sliced(made.lastIndexOf(u'/') + 1);
     if (madeName != name) {
         if (TransferStep step = m_link->rename(folder, madeName, name); !step.isDone()) {
-            m_link->remove(FileNames::joined(folder, madeName));
+            m_link->remove(FilePaths::join(folder, madeName));
             return step.endsRun() ? step : existsNow(folder, name, step);
         }
     }
     remember(folder, name, {true, 0, {}});
-    m_folders.insert(FileNames::joined(folder, name), {});
+    m_folders.insert(FilePaths::join(folder, name), {});
     return TransferStep::done();
 }
 
@@ -94,7 +95,7 @@ TransferStep RemoteTarget::removeLeftovers(const QString &folder, const QString 
         }
         TransferStep step = leftover->isBackup
             ? settleBackup(folder, leftoverName, name)
-            : m_link->remove(FileNames::joined(folder, leftoverName));
+            : m_link->remove(FilePaths::join(folder, leftoverName));
         if (step.endsRun()) {
             return step;
         }
@@ -110,7 +111,7 @@ TransferStep RemoteTarget::settleBackup(const QString &folder, const QString &ba
 {
     QHash<QString, Entry> &entries = m_folders[folder].entries;
     if (entries.contains(name)) {
-        return m_link->remove(FileNames::joined(folder, backup));
+        return m_link->remove(FilePaths::join(folder, backup));
     }
     TransferStep step = m_link->rename(folder, backup, name);
     if (step.isDone()) {
@@ -173,7 +174,7 @@ TransferStep RemoteTarget::commitOver(const QString &folder, const TemporaryName
         }
         return step;
     }
-    if (const TransferStep removed = m_link->remove(FileNames::joined(folder, backup));
+    if (const TransferStep removed = m_link->remove(FilePaths::join(folder, backup));
         !removed.isDone()) {
         qCInfo(lcTransfer).noquote() << removed.reason;
         m_folders.remove(folder);
@@ -188,7 +189,7 @@ TransferStep RemoteTarget::discard(const QString &folder, const TemporaryName &t
     TransferStep step = fetch(folder, fresh);
     for (auto entry = fresh.entries.cbegin(); entry != fresh.entries.cend(); ++entry) {
         if (entry.key().startsWith(temporary.part())) {
-            const TransferStep removed = m_link->remove(FileNames::joined(folder, entry.key()));
+            const TransferStep removed = m_link->remove(FilePaths::join(folder, entry.key()));
             step = removed.isDone() ? step : removed;
         }
     }

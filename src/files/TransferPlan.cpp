@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 
 #include "FileNames.h"
+#include "FilePaths.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcTransfer)
 
@@ -58,7 +59,7 @@ TransferStep TransferPlan::addEntry(const QString &source, const QString &target
     const bool isFolder = entry.type == Type::Folder;
     m_items.append({source, targetFolder, name, isFolder, entry.size, entry.date});
     if (isFolder) {
-        return addBelow(source, FileNames::joined(targetFolder, name), depth + 1);
+        return addBelow(source, FilePaths::join(targetFolder, name), depth + 1);
     }
     ++m_fileCount;
     m_bytes += entry.size;
@@ -79,7 +80,7 @@ TransferStep TransferPlan::addBelow(const QString &source, const QString &target
     }
     for (const TransferSource::Entry &entry : std::as_const(entries)) {
         TransferStep step =
-            addEntry(FileNames::joined(source, entry.name), targetFolder, entry.name, entry, depth);
+            addEntry(FilePaths::join(source, entry.name), targetFolder, entry.name, entry, depth);
         if (!step.isDone()) {
             return step;
         }
@@ -94,7 +95,7 @@ bool TransferPlan::containsTarget(const QString &folder) const
     }
     const QString canonical = QFileInfo(folder).canonicalFilePath();
     return m_canonicalTarget == canonical
-        || m_canonicalTarget.startsWith(FileNames::joined(canonical, {}));
+        || m_canonicalTarget.startsWith(FilePaths::join(canonical, {}));
 }
 
 /// Notes a failure. @return what is left of it for the plan as a whole.

@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 
 #include "FileNames.h"
+#include "FilePaths.h"
 #include "LocalSource.h"
 #include "LocalTarget.h"
 #include "QvexFileModel.h"
@@ -175,7 +176,7 @@ TransferStep TransferRun::makeFolder(const TransferPlan::Item &item)
         step = TransferStep::failed(tr("a file at the target has the name of this folder"));
     }
     if (step.code == TransferStep::Code::Failed) {
-        m_failedFolder = FileNames::joined(item.targetFolder, item.name);
+        m_failedFolder = FilePaths::join(item.targetFolder, item.name);
     }
     return step;
 }
@@ -208,7 +209,7 @@ TransferStep TransferRun::carryTo(const TransferPlan::Item &item, Place &place)
     const TemporaryName temporary(place.name);
     qint64 size = 0;
     TransferStep step =
-        m_carrier.carry(item, FileNames::joined(place.folder, temporary.part()), size);
+        m_carrier.carry(item, FilePaths::join(place.folder, temporary.part()), size);
     if (step.isDone()) {
         do {
             step = m_target->commit(place.folder, temporary, place.name, size, place.replace);
@@ -228,7 +229,7 @@ void TransferRun::discard(const Place &place, const TemporaryName &temporary, Tr
     const TransferStep discarded = m_target->discard(place.folder, temporary);
     if (!discarded.isDone() && !step.reason.isEmpty()) {
         step.reason = tr("%1; what may be left as %2 is removed when the file is carried again")
-                          .arg(step.reason, FileNames::joined(place.folder, temporary.part()));
+                          .arg(step.reason, FilePaths::join(place.folder, temporary.part()));
     }
 }
 
@@ -244,7 +245,7 @@ TransferStep TransferRun::settleConflict(const TransferPlan::Item &item, Place &
     if (there->isFolder) {
         return TransferStep::failed(tr("a folder at the target has the name of this file"));
     }
-    const QString target = FileNames::joined(place.folder, place.name);
+    const QString target = FilePaths::join(place.folder, place.name);
     switch (m_desk.decide({item.source, target, item.size, there->size, item.date, there->date})) {
     case ConflictChoice::Overwrite:
         place.replace = true;
