@@ -223,6 +223,7 @@ void LocalOperationsTest::failureLeavesBothSidesAsTheyWere_data()
         QTest::addRow("move: %s", name) << Operation::Move << from << to << result;
     };
     both("source is gone", "from/none", "to", ENOENT);
+    both("name is too long", qPrintable(u"from/"_s + QString(300, u'x')), "to", ENAMETOOLONG);
     both("target is gone", "from/file", "none", ENOENT);
     both("target is a file", "from/tree", "from/file", ENOTDIR);
     both("name is taken", "from/file", "taken", EEXIST);
